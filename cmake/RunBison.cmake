@@ -1,0 +1,24 @@
+# Runs bison and fails unless the grammar has exactly the conflicts that it explains: a change of the
+# counts is a change of the language.
+#
+#   cmake -DBISON=... -DGRAMMAR=... -DOUTPUT=... -DHEADER=... -DSHIFT_REDUCE=n -DREDUCE_REDUCE=n
+#         -P RunBison.cmake
+execute_process(
+    COMMAND ${BISON} -Wall -Wno-counterexamples --output=${OUTPUT} --defines=${HEADER} ${GRAMMAR}
+    RESULT_VARIABLE result
+    ERROR_VARIABLE messages)
+
+foreach(expected "${SHIFT_REDUCE} shift/reduce" "${REDUCE_REDUCE} reduce/reduce")
+    string(REGEX REPLACE "[^\n]*: warning: ${expected} conflicts [^\n]*\n" "" rest "${messages}")
+    if(rest STREQUAL messages)
+        file(REMOVE ${OUTPUT})
+        message(FATAL_ERROR "${GRAMMAR}: not ${expected} conflicts:\n${messages}")
+    endif()
+    set(messages "${rest}")
+endforeach()
+
+string(REGEX REPLACE "[^\n]*: note: rerun with option [^\n]*\n" "" messages "${messages}")
+if(NOT result EQUAL 0 OR NOT messages STREQUAL "")
+    file(REMOVE ${OUTPUT})
+    message(FATAL_ERROR "${GRAMMAR}: bison has complaints:\n${messages}")
+endif()

@@ -1,0 +1,111 @@
+#include "quillet.h"
+
+#include <cstdlib>
+#include <iterator>
+#include <memory>
+
+#include "quillet_builder.h"
+#include "quillet_globals.h"
+#include "quillet_letter_case.h"
+#include "quillet_mysql_builder.h"
+#include "quillet_parser.h"
+#include "quillet_postgresql_builder.h"
+#include "quillet_text_buffer.h"
+#include "quillet_tree_view_builder.h"
+#include "quillet_type_view_builder.h"
+
+using namespace quillet;
+
+quillet_builder_info *quillet_builders[4] = {};
+const char *const error_descriptions[4] = {"", "no such builder", "invalid query",
+                                           "can not translate"};
+int32_t error_code = QUILLET_SUCCESS;
+int32_t last_builder_id = 0;
+
+namespace {
+
+constexpr int builder_count = std::size(quillet_builders);
+
+bool is_builder(int id) { return id >= 0 && id < builder_count; }
+
+int fail(int code) {
+    error_code = code;
+    return code;
+}
+
+// Renders the tree in root with a fresh builder and frees both.
+build_result *render_root(const quillet_builder_info &info) {
+    builder *renderer = info.constructor();
+    build_result *result = quillet_call_build_main(renderer, root, nullptr);
+    quillet_builder_free(renderer);
+    quillet_node_main_free(root);
+    root = nullptr;
+    return result;
+}
+
+} // namespace
+
+void quillet_init(void) {
+    quillet_builders[0] = quillet_postgresql_builder_get_info();
+    quillet_builders[1] = quillet_mysql_builder_get_info();
+    quillet_builders[2] = quillet_tree_view_builder_get_info();
+    quillet_builders[3] = quillet_type_view_builder_get_info();
+    for (int id = 0; id < builder_count; ++id)
+        quillet_builders[id]->builder_id = id;
+}
+
+void quillet_done(void) {}
+
+int quillet_get_builder_count(void) { return builder_count; }
+
+quillet_builder_info *quillet_get_builder_info(int builder_id) {
+    return is_builder(builder_id) ? quillet_builders[builder_id] : nullptr;
+}
+
+int quillet_get_builder_id(const char *name) {
+    for (int id = 0; id < builder_count; ++id)
+        if (equal_ignoring_case(quillet_builders[id]->builder_name, name))
+            return id;
+    return -1;
+}
+
+int quillet_translate_query(const char *input, char **output, int builder_id) {
+    error_code = QUILLET_SUCCESS;
+    last_builder_id = builder_id;
+    if (!is_builder(builder_id))
+        return fail(QUILLET_NO_SUCH_BUILDER);
+    if (quillet_parse(input) == QUILLET_PARSE_SYNTAX_ERROR)
+        return fail(QUILLET_INVALID_QUERY);
+    if (!root)
+        return fail(QUILLET_CAN_NOT_TRANSLATE); // nested too deeply for the parser
+
+    const std::unique_ptr<build_result, freed> result(render_root(*quillet_builders[builder_id]));
+    if (!result)
+        return fail(QUILLET_CAN_NOT_TRANSLATE);
+    std::unique_ptr<char, freed> text(result->query);
+    if (result->build_result != QUILLET_SUCCESS)
+        return fail(result->build_result);
+    if (text)
+        *output = text.release();
+    return QUILLET_SUCCESS;
+}
+
+const char *quillet_get_error_description(void) {
+    const bool known =
+        error_code <= 0 && -static_cast<long>(error_code) < long{std::size(error_descriptions)};
+    return known ? error_descriptions[-error_code] : "";
+}
+
+int quillet_get_detailed_error_code(void) {
+    if (!is_builder(last_builder_id))
+        return 0;
+    const quillet_builder_info &info = *quillet_builders[last_builder_id];
+    return info.get_error_code ? info.get_error_code() : 0;
+}
+
+const char *quillet_get_detailed_error_description(void) {
+    if (!is_builder(last_builder_id))
+        return nullptr;
+    const quillet_builder_info &info = *quillet_builders[last_builder_id];
+    return info.get_error_description ? info.get_error_description() : nullptr;
+}

@@ -1,0 +1,84 @@
+/*
+ * Quillet translates one SQL statement in the PostgreSQL dialect.
+ *
+ *     char *text;
+ *     quillet_init();
+ *     if (quillet_translate_query("select 1", &text, quillet_get_builder_id("mysql")) == 0) {
+ *         puts(text);
+ *         free(text);
+ *     }
+ *     quillet_done();
+ *
+ * The state of the library is one for the process: one translation at a time. An error of the
+ * syntax is also reported on standard output, and a character that no token can hold ends the
+ * process with status 0.
+ */
+#ifndef QUILLET_H
+#define QUILLET_H
+
+#include <stdint.h>
+
+#include "quillet_export.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+struct builder;
+
+/* The codes of a translation; a builder's own failure is one of them too. */
+enum {
+    QUILLET_SUCCESS = 0,
+    QUILLET_NO_SUCH_BUILDER = -1,
+    QUILLET_INVALID_QUERY = -2, /* a syntax error, or a part missing that the construct requires */
+    QUILLET_CAN_NOT_TRANSLATE = -3 /* the builder has no equal for a construct */
+};
+
+/* An output builder. The record and its texts belong to the library. */
+typedef struct quillet_builder_info {
+    const char *builder_name;
+    const char *builder_description; /* in one line */
+    int32_t builder_id;              /* its index, once quillet_init has been called */
+    struct builder *(*constructor)(void);
+    int32_t (*get_error_code)(void);            /* NULL if the builder has no codes of its own */
+    const char *(*get_error_description)(void); /* likewise */
+} quillet_builder_info;
+
+/* Makes the library ready; to be called before anything else here. Calling it again does no harm.
+ */
+QUILLET_API void quillet_init(void);
+
+/* Ends the use of the library. */
+QUILLET_API void quillet_done(void);
+
+/* Returns the number of builders. */
+QUILLET_API int quillet_get_builder_count(void);
+
+/* Returns a builder's record, NULL if there is no builder with this id. */
+QUILLET_API quillet_builder_info *quillet_get_builder_info(int builder_id);
+
+/* Returns the id of the builder with this name, in any letter case; -1 if there is none. */
+QUILLET_API int quillet_get_builder_id(const char *name);
+
+/*
+ * Translates one statement. Returns 0 and stores the text in *output: the caller owns it and
+ * releases it with free. Returns a negative code otherwise and leaves *output alone.
+ */
+QUILLET_API int quillet_translate_query(const char *input, char **output, int builder_id);
+
+/* Returns the description of the last translation's code, a static text; "" for success. */
+QUILLET_API const char *quillet_get_error_description(void);
+
+/*
+ * The builder's own reason for its last refusal: a code, 0 for none, and its text, a static one;
+ * NULL if the builder of the last translation has no reasons. A builder keeps its reason when a
+ * later translation succeeds, so ask only after a failure, and take the text only with a code.
+ */
+QUILLET_API int quillet_get_detailed_error_code(void);
+QUILLET_API const char *quillet_get_detailed_error_description(void);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,72 @@
+/*
+ * Rendering of list chains, whatever their length, with a loop. Internal.
+ */
+#ifndef QUILLET_BUILDER_LISTS_H
+#define QUILLET_BUILDER_LISTS_H
+
+#include "quillet_builder_rendering.h"
+
+namespace quillet {
+
+inline constexpr std::string_view comma = ", ";
+inline constexpr std::string_view blank = " "; // only between two non-empty texts
+
+// How the data argument of a list goes to its parts; by default they get none.
+struct no_data {
+    static void *earlier(void *) { return nullptr; }
+    static void *item(void *) { return nullptr; }
+};
+
+// Renders a list: the items before the head's own, then that one. Earlier and Item are the list's
+// fields for the two; a list node without an item is a missing part.
+template <auto Earlier, auto Item, class Data = no_data, class List>
+rendered render_list(rendering &r, List *head, void *data, std::string_view separator) {
+    constexpr auto slot = slot_of<List>::operation;
+    const bool own = rendering::dialect_of(slot, r.self->*slot) != nullptr;
+    const std::size_t base = r.links.size();
+    const std::size_t begin = r.out.size();
+
+    // Down to the first item, or to the first list node that is not ours to render.
+    List *list = head;
+    rendered result = absent;
+    for (;;) {
+        if (!(list->*Item)) {
+            result = missing_part;
+            break;
+        }
+        r.links.push_back({list, data});
+        List *earlier = list->*Earlier;
+        data = Data::earlier(data);
+        if (!earlier)
+            break;
+        if (!own) {
+            result = r.child(earlier, data);
+            break;
+        }
+        list = earlier;
+    }
+
+    // And back up to the last item.
+    while (r.links.size() > base) {
+        const rendering::link link = r.links.back();
+        r.links.pop_back();
+        list = static_cast<List *>(link.node);
+        rendered item;
+        if (separator == blank) {
+            item = r.spaced_child(begin, list->*Item);
+        } else {
+            if (result.text)
+                r.out.append(separator);
+            item = r.child(list->*Item, Data::item(link.data));
+        }
+        if constexpr (requires { list->count; })
+            list->count = result.text ? (list->*Earlier)->count + 1 : 1;
+        result = {true, result.text || item.text, result.status};
+        result.fail_with(item);
+    }
+    return result;
+}
+
+} // namespace quillet
+
+#endif

@@ -1,0 +1,74 @@
+#include "quillet_builder_rendering.h"
+
+#include <cstdlib>
+
+namespace quillet {
+
+void rendering::know(dialect &own) {
+    for (const dialect *known = dialects; known; known = known->next)
+        if (known == &own)
+            return;
+    own.next = dialects;
+    dialects = &own;
+}
+
+rendered rendering::take(build_result *result) {
+    if (!result)
+        return absent;
+    const std::unique_ptr<build_result, freed> record(result);
+    const std::unique_ptr<char, freed> text(record->query);
+    if (text)
+        out.append(text.get());
+    return {true, text != nullptr, record->build_result};
+}
+
+void rendering::drop_between(place begin, place end) {
+    const auto first = insertions_.begin();
+    insertions_.erase(first + static_cast<std::ptrdiff_t>(begin.insertions),
+                      first + static_cast<std::ptrdiff_t>(end.insertions));
+    for (std::size_t i = begin.insertions; i < insertions_.size(); ++i)
+        insertions_[i].position -= end.size - begin.size;
+    out.erase(begin.size, end.size);
+}
+
+// Moves the text from its end to where it belongs, so that each part is moved once.
+void rendering::settle(place begin) {
+    std::size_t added = 0;
+    for (std::size_t i = begin.insertions; i < insertions_.size(); ++i)
+        added += insertions_[i].text.size();
+    std::size_t source = out.size();
+    if (added) {
+        out.grow(added);
+        std::size_t target = out.size();
+        for (std::size_t i = insertions_.size(); i-- > begin.insertions;) {
+            const insertion &next = insertions_[i];
+            const std::size_t moved = source - next.position;
+            target -= moved;
+            source = next.position;
+            std::memmove(out.at(target), out.at(source), moved);
+            target -= next.text.size();
+            std::memcpy(out.at(target), next.text.data(), next.text.size());
+        }
+    }
+    insertions_.resize(begin.insertions);
+}
+
+build_result *finished(rendering &r, rendered result) {
+    if (!result.record)
+        return nullptr;
+    build_result *record = quillet_build_result_create();
+    record->build_result = result.status;
+    if (result.text) {
+        r.settle({0, 0});
+        record->query = r.out.release();
+    }
+    return record;
+}
+
+build_result *render_operator_alone(const operator_rule &rule, builder *self,
+                                    node_expression *node) {
+    rendering alone(self);
+    return finished(alone, render_by_rule(alone, rule, node));
+}
+
+} // namespace quillet

@@ -1,0 +1,324 @@
+// The default rendering of statements and clauses.
+
+#include "quillet_builder_lists.h"
+
+namespace quillet {
+
+// Statements.
+
+rendered render_main(rendering &r, node_main *node, void *) {
+    if (node->select)
+        return r.child(node->select);
+    if (node->insert)
+        return r.child(node->insert);
+    if (node->update)
+        return r.child(node->update);
+    return r.child(node->delete_);
+}
+
+rendered render_select(rendering &r, node_select *node, void *) {
+    if (!node->distinct_select_list)
+        return missing_part;
+    rendered result = r.enclosed_child("SELECT ", node->distinct_select_list);
+    const auto behind_list = r.here();
+    r.out.append(" FROM ");
+    const std::size_t begin = r.out.size();
+    const rendered tables = r.child(node->tables);
+    result.fail_with(tables);
+    result.fail_with(r.spaced_child(begin, node->where_clausule));
+    result.fail_with(r.spaced_child(begin, node->group_by_clausule));
+    result.fail_with(r.spaced_child(begin, node->order_by_clausule));
+    result.fail_with(r.spaced_child(begin, node->limit_clausule));
+    if (!tables.text)
+        r.drop_from(behind_list);
+    return result;
+}
+
+rendered render_insert(rendering &r, node_insert *node, void *) {
+    if (!node->table || !node->values_list)
+        return missing_part;
+    const auto begin = r.here();
+    rendered result = r.enclosed_child("INSERT INTO ", node->table);
+    const rendered columns = r.prefixed_child(" (", node->identifier_list);
+    result.fail_with(columns);
+    r.out.append(columns.text ? ") VALUES " : " VALUES ");
+    result.fail_with(r.child(node->values_list, node->identifier_list));
+    const auto *values = node->values_list->expression_or_default_list;
+    if (columns.text && node->identifier_list->count != (values ? values->count : 0)) {
+        r.drop_from(begin);
+        return missing_part;
+    }
+    return result;
+}
+
+rendered render_update(rendering &r, node_update *node, void *) {
+    if (!node->table || !node->set_clausule)
+        return missing_part;
+    r.out.append("UPDATE ");
+    const std::size_t begin = r.out.size();
+    rendered result = a_text;
+    result.fail_with(r.child(node->table));
+    result.fail_with(r.spaced_child(begin, node->set_clausule));
+    result.fail_with(r.spaced_child(begin, node->where_clausule));
+    return result;
+}
+
+rendered render_delete(rendering &r, node_delete *node, void *) {
+    if (!node->table)
+        return missing_part;
+    r.out.append("DELETE FROM ");
+    const std::size_t begin = r.out.size();
+    rendered result = a_text;
+    result.fail_with(r.child(node->table));
+    result.fail_with(r.spaced_child(begin, node->where_clausule));
+    return result;
+}
+
+// The values of an INSERT. The data argument is the list of column names: each list of values gets
+// the names that belong to it, each value its own name.
+
+namespace {
+
+struct column_names {
+    static void *earlier(void *names) {
+        return names ? static_cast<node_identifier_list *>(names)->identifier_list : nullptr;
+    }
+    static void *item(void *names) {
+        return names ? static_cast<node_identifier_list *>(names)->identifier : nullptr;
+    }
+};
+
+} // namespace
+
+rendered render_values_list(rendering &r, node_values_list *node, void *names) {
+    if (!node->expression_or_default_list)
+        return missing_part;
+    r.out.append("(");
+    const rendered items = r.child(node->expression_or_default_list, names);
+    r.out.append(")");
+    return {true, true, items.status};
+}
+
+rendered render_expression_or_default_list(rendering &r, node_expression_or_default_list *node,
+                                           void *names) {
+    return render_list<&node_expression_or_default_list::expression_or_default_list,
+                       &node_expression_or_default_list::expression_or_default_item, column_names>(
+        r, node, names, comma);
+}
+
+rendered render_expression_or_default_item(rendering &r, node_expression_or_default_item *node,
+                                           void *) {
+    const rendered value = r.child(node->expression);
+    if (!value.text)
+        r.out.append("DEFAULT");
+    return {true, true, value.status};
+}
+
+// The assignments of an UPDATE.
+
+rendered render_set_clausule(rendering &r, node_set_clausule *node, void *) {
+    if (!node->set_list)
+        return missing_part;
+    return r.enclosed_child("SET ", node->set_list);
+}
+
+rendered render_set_list(rendering &r, node_set_list *node, void *data) {
+    return render_list<&node_set_list::set_list, &node_set_list::set_item>(r, node, data, comma);
+}
+
+rendered render_set_item(rendering &r, node_set_item *node, void *) {
+    if (!node->column_reference || !node->expression)
+        return missing_part;
+    rendered result = r.enclosed_child("", node->column_reference, " = ");
+    result.fail_with(r.child(node->expression));
+    return result;
+}
+
+// Tables and joins.
+
+rendered render_tables(rendering &r, node_tables *node, void *) {
+    if (!node->tables_list)
+        return missing_part;
+    const std::size_t begin = r.out.size();
+    rendered result = r.child(node->tables_list);
+    const rendered joins = r.spaced_child(begin, node->join_list);
+    result.fail_with(joins);
+    return {true, result.text || joins.text, result.status};
+}
+
+rendered render_tables_list(rendering &r, node_tables_list *node, void *data) {
+    return render_list<&node_tables_list::tables_list, &node_tables_list::table>(r, node, data,
+                                                                                 comma);
+}
+
+rendered render_table(rendering &r, node_table *node, void *) {
+    if (!node->identifier)
+        return missing_part;
+    rendered result = r.child(node->identifier);
+    const rendered alias = r.prefixed_child(" AS ", node->alias);
+    result.fail_with(alias);
+    return {true, result.text || alias.text, result.status};
+}
+
+rendered render_join_list(rendering &r, node_join_list *node, void *data) {
+    return render_list<&node_join_list::join_list, &node_join_list::join>(r, node, data, blank);
+}
+
+rendered render_join(rendering &r, node_join *node, void *) {
+    static constexpr std::string_view words[] = {"",
+                                                 "CROSS JOIN ",
+                                                 "INNER JOIN ",
+                                                 "LEFT OUTER JOIN ",
+                                                 "RIGHT OUTER JOIN ",
+                                                 "FULL OUTER JOIN "};
+    if (!node->table)
+        return missing_part;
+    const bool known = node->type >= QUILLET_JOIN_CROSS && node->type <= QUILLET_JOIN_FULL;
+    if (node->natural)
+        r.out.append("NATURAL ");
+    r.out.append(words[known ? node->type : QUILLET_JOIN_NONE]);
+    const std::size_t begin = r.out.size();
+    rendered result = r.child(node->table);
+    const rendered condition = r.spaced_child(begin, node->join_expression);
+    result.fail_with(condition);
+    return {true, result.text || condition.text || known || node->natural, result.status};
+}
+
+rendered render_join_type(rendering &, node_join_type *, void *) { return absent; }
+
+rendered render_join_expression(rendering &r, node_join_expression *node, void *) {
+    rendered result = textless;
+    const rendered condition = r.prefixed_child("ON ", node->expression);
+    const auto behind_condition = r.here();
+    const rendered names = r.prefixed_child("USING(", node->identifier_list);
+    result.fail_with(condition);
+    result.fail_with(names);
+    if (condition.text)
+        r.drop_from(behind_condition);
+    else if (names.text)
+        r.out.append(")");
+    result.text = condition.text || names.text;
+    return result;
+}
+
+// The later clauses of a statement.
+
+rendered render_where_clausule(rendering &r, node_where_clausule *node, void *) {
+    if (!node->expression)
+        return missing_part;
+    return r.enclosed_child("WHERE ", node->expression);
+}
+
+rendered render_group_by_clausule(rendering &r, node_group_by_clausule *node, void *) {
+    if (!node->column_reference_list)
+        return missing_part;
+    r.out.append("GROUP BY ");
+    const std::size_t begin = r.out.size();
+    rendered result = a_text;
+    result.fail_with(r.child(node->column_reference_list));
+    result.fail_with(r.spaced_child(begin, node->having_clausule));
+    return result;
+}
+
+rendered render_having_clausule(rendering &r, node_having_clausule *node, void *) {
+    if (!node->expression)
+        return missing_part;
+    return r.enclosed_child("HAVING ", node->expression);
+}
+
+rendered render_order_by_clausule(rendering &r, node_order_by_clausule *node, void *) {
+    if (!node->order_by_list)
+        return missing_part;
+    return r.enclosed_child("ORDER BY ", node->order_by_list);
+}
+
+rendered render_order_by_list(rendering &r, node_order_by_list *node, void *data) {
+    return render_list<&node_order_by_list::order_by_list, &node_order_by_list::order_by_item>(
+        r, node, data, comma);
+}
+
+rendered render_order_by_item(rendering &r, node_order_by_item *node, void *) {
+    if (!node->expression)
+        return missing_part;
+    return r.enclosed_child("", node->expression,
+                            node->type == QUILLET_SORT_ASCENDING ? " ASC" : " DESC");
+}
+
+rendered render_limit_clausule(rendering &r, node_limit_clausule *node, void *) {
+    const rendered limit = r.prefixed_child("LIMIT ", node->const_integer_1);
+    const rendered offset =
+        r.prefixed_child(limit.text ? " OFFSET " : "OFFSET ", node->const_integer_2);
+    rendered result{true, limit.text || offset.text, limit.status};
+    result.fail_with(offset);
+    return result;
+}
+
+// The select list.
+
+rendered render_distinct_select_list(rendering &r, node_distinct_select_list *node, void *) {
+    if (!node->select_list)
+        return missing_part;
+    const std::size_t begin = r.out.size();
+    const rendered distinct = r.child(node->distinct);
+    const rendered list = r.spaced_child(begin, node->select_list);
+    rendered result{true, distinct.text || list.text, distinct.status};
+    result.fail_with(list);
+    return result;
+}
+
+rendered render_distinct(rendering &r, node_distinct *node, void *) {
+    r.out.append("DISTINCT");
+    const rendered list = r.prefixed_child(" (", node->select_list);
+    if (list.text)
+        r.out.append(")");
+    return {true, true, list.status};
+}
+
+rendered render_select_list(rendering &r, node_select_list *node, void *data) {
+    return render_list<&node_select_list::select_list, &node_select_list::select_item>(r, node,
+                                                                                       data, comma);
+}
+
+rendered render_select_item(rendering &r, node_select_item *node, void *) {
+    const rendered expression = r.child(node->expression);
+    const rendered name =
+        expression.text ? r.prefixed_child(" AS ", node->identifier) : r.child(node->identifier);
+    if (!expression.text)
+        r.out.append(name.text ? ".*" : "*");
+    rendered result{true, true, expression.status};
+    result.fail_with(name);
+    return result;
+}
+
+// Names and columns.
+
+rendered render_identifier_list(rendering &r, node_identifier_list *node, void *data) {
+    return render_list<&node_identifier_list::identifier_list, &node_identifier_list::identifier>(
+        r, node, data, comma);
+}
+
+rendered render_identifier(rendering &r, node_identifier *node, void *) {
+    if (!node->name)
+        return missing_part;
+    r.out.append(node->name);
+    return a_text;
+}
+
+rendered render_column_reference_list(rendering &r, node_column_reference_list *node, void *data) {
+    return render_list<&node_column_reference_list::column_reference_list,
+                       &node_column_reference_list::column_reference>(r, node, data, comma);
+}
+
+rendered render_column_reference(rendering &r, node_column_reference *node, void *) {
+    if (!node->column_name)
+        return missing_part;
+    const rendered qualifier = r.child(node->correlation_name);
+    if (qualifier.text)
+        r.out.append(".");
+    const rendered column = r.child(node->column_name);
+    rendered result{true, qualifier.text || column.text, qualifier.status};
+    result.fail_with(column);
+    return result;
+}
+
+} // namespace quillet

@@ -1,0 +1,33 @@
+#include "quillet_parser.h"
+
+#include <cstdio>
+#include <cstring>
+
+#include "quillet_globals.h"
+#include "quillet_parser_tools.h"
+
+extern "C" int yy_quillet_parse(void);
+
+node_main *root = nullptr;
+
+// Reports a syntax error or an overflow of the parser's stacks, for which bison has words of its
+// own.
+extern "C" int yy_quillet_error(const char *message) {
+    const bool overflow = std::strcmp(message, "memory exhausted") == 0;
+    std::printf("Error: %s\n", overflow ? "parser stack overflow" : message);
+    return 0;
+}
+
+int quillet_parse(const char *query) {
+    root = nullptr;
+    quillet_query = _quillet_parse_data_create(query);
+    const int result = yy_quillet_parse();
+    _quillet_parse_data_free(quillet_query);
+    quillet_query = nullptr;
+    // A statement may be complete, and in root, before what follows it turns out to be wrong.
+    if (result != QUILLET_PARSE_ACCEPTED) {
+        quillet_node_main_free(root);
+        root = nullptr;
+    }
+    return result;
+}

@@ -1,0 +1,26 @@
+/*
+ * The builder postgresql: canonical PostgreSQL text, the default rendering as it is.
+ */
+#ifndef QUILLET_POSTGRESQL_BUILDER_H
+#define QUILLET_POSTGRESQL_BUILDER_H
+
+#include "quillet.h"
+#include "quillet_builder.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+extern quillet_builder_info quillet_postgresql_builder_info;
+
+/* Returns the builder's record in the registry, a static one. */
+QUILLET_API quillet_builder_info *quillet_postgresql_builder_get_info(void);
+
+/* Returns a new builder, which the caller owns. */
+QUILLET_API builder *quillet_postgresql_builder_create(void);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

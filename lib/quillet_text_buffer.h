@@ -1,0 +1,81 @@
+/*
+ * A growing text that ends up as a heap text of its own. Internal.
+ */
+#ifndef QUILLET_TEXT_BUFFER_H
+#define QUILLET_TEXT_BUFFER_H
+
+#include <cstddef>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <string_view>
+
+namespace quillet {
+
+struct freed {
+    void operator()(void *memory) const { std::free(memory); }
+};
+
+class text_buffer {
+public:
+    std::size_t size() const { return size_; }
+    const char *data() const { return data_.get(); }
+    std::string_view from(std::size_t begin) const { return {data() + begin, size_ - begin}; }
+
+    void append(std::string_view text) {
+        if (text.empty())
+            return;
+        char *end = grow(text.size());
+        std::memcpy(end, text.data(), text.size());
+    }
+
+    void append(char c) { *grow(1) = c; }
+
+    // Adds room for count characters behind the text and returns where it begins.
+    char *grow(std::size_t count) {
+        if (capacity_ - size_ < count + 1)
+            reserve(size_ + count + 1);
+        char *end = data_.get() + size_;
+        size_ += count;
+        return end;
+    }
+
+    // Repeats a part of the text behind its end.
+    void append_copy(std::size_t begin, std::size_t count) {
+        char *end = grow(count);
+        std::memcpy(end, data() + begin, count);
+    }
+
+    void truncate(std::size_t size) { size_ = size; }
+
+    void erase(std::size_t begin, std::size_t end) {
+        std::memmove(data_.get() + begin, data_.get() + end, size_ - end);
+        size_ -= end - begin;
+    }
+
+    char *at(std::size_t position) { return data_.get() + position; }
+
+    // Hands the text over, NUL-terminated; the caller frees it. The buffer is empty afterwards.
+    char *release() {
+        *grow(1) = '\0';
+        size_ = capacity_ = 0;
+        return data_.release();
+    }
+
+private:
+    void reserve(std::size_t needed) {
+        std::size_t capacity = capacity_ ? capacity_ : 256;
+        while (capacity < needed)
+            capacity *= 2;
+        data_.reset(static_cast<char *>(std::realloc(data_.release(), capacity)));
+        capacity_ = capacity;
+    }
+
+    std::unique_ptr<char, freed> data_;
+    std::size_t size_ = 0;
+    std::size_t capacity_ = 0;
+};
+
+} // namespace quillet
+
+#endif

@@ -1,0 +1,60 @@
+/*
+ * The node kinds as data, for the walks that treat all kinds alike. Internal.
+ */
+#ifndef QUILLET_TREE_NODE_KINDS_H
+#define QUILLET_TREE_NODE_KINDS_H
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include "quillet_tree_node.h"
+
+namespace quillet {
+
+enum node_kind : std::uint8_t {
+#define NODE(kind) kind_##kind,
+#include "quillet_nodes.def"
+    node_kind_count
+};
+
+static_assert(node_kind_count == 55);
+
+enum class field_role : std::uint8_t { end, child, code, text };
+
+struct node_field {
+    field_role role = field_role::end;
+    node_kind kind = node_kind_count; // of a child
+    std::uint16_t offset = 0;
+};
+
+// The fields of one kind behind sql_type, in order; the last one has the role end.
+#define NODE(kind) inline constexpr node_field fields_of_##kind[] = {
+#define CHILD(kind, type, field) {field_role::child, kind_##type, offsetof(node_##kind, field)},
+#define CODE(kind, field) {field_role::code, node_kind_count, offsetof(node_##kind, field)},
+#define TEXT(kind, field) {field_role::text, node_kind_count, offsetof(node_##kind, field)},
+#define END(kind)                                                                                  \
+    {}                                                                                             \
+    }                                                                                              \
+    ;
+#include "quillet_nodes.def"
+
+inline constexpr const node_field *fields_of[node_kind_count] = {
+#define NODE(kind) fields_of_##kind,
+#include "quillet_nodes.def"
+};
+
+// The value of a field, read or written where its offset says.
+template <class Value> Value field_value(const void *node, const node_field &field) {
+    Value value;
+    std::memcpy(&value, static_cast<const char *>(node) + field.offset, sizeof value);
+    return value;
+}
+
+template <class Value> void set_field_value(void *node, const node_field &field, Value value) {
+    std::memcpy(static_cast<char *>(node) + field.offset, &value, sizeof value);
+}
+
+} // namespace quillet
+
+#endif

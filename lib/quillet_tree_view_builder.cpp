@@ -1,0 +1,141 @@
+#include "quillet_tree_view_builder.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+#include <string_view>
+#include <vector>
+
+#include "quillet_text_buffer.h"
+#include "quillet_tree_node_kinds.h"
+
+using namespace quillet;
+
+quillet_builder_info quillet_tree_view_builder_info = {
+    .builder_name = "tree",
+    .builder_description = "outputs tree view of parse tree",
+    .builder_id = 0,
+    .constructor = quillet_tree_view_builder_create,
+    .get_error_code = nullptr,
+    .get_error_description = nullptr,
+};
+
+quillet_builder_info *quillet_tree_view_builder_get_info(void) {
+    return &quillet_tree_view_builder_info;
+}
+
+namespace {
+
+constexpr std::intptr_t indentation_step = 2;
+
+void append_number(text_buffer &out, int number) {
+    char digits[12];
+    const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+    out.append({digits, static_cast<std::size_t>(end - digits)});
+}
+
+void append_line(text_buffer &out, std::intptr_t indentation, std::string_view label, int number) {
+    if (indentation > 0)
+        std::memset(out.grow(static_cast<std::size_t>(indentation)), ' ',
+                    static_cast<std::size_t>(indentation));
+    out.append(label);
+    out.append(" [");
+    append_number(out, number);
+    out.append("]\n");
+}
+
+constexpr std::string_view labels[] = {
+#define NODE(kind) #kind,
+#include "quillet_nodes.def"
+};
+
+// For every kind: calls whatever stands in the builder's slot, and whether that is the tree view's
+// own operation, so that the walk below can do without the call.
+struct kind_slot {
+    bool (*is_own)(const builder &self);
+    build_result *(*call)(builder *self, void *node, void *data);
+};
+
+constexpr kind_slot slots[] = {
+#define NODE(kind)                                                                                 \
+    {[](const builder &self) { return self.build_##kind == quillet_##kind##_tree_view; },          \
+     [](builder *self, void *node, void *data) {                                                   \
+         return quillet_call_build_##kind(self, static_cast<node_##kind *>(node), data);           \
+     }},
+#include "quillet_nodes.def"
+};
+
+// A node whose fields are being shown.
+struct level {
+    const void *node;
+    const node_field *next;
+    std::intptr_t indentation;
+};
+
+void append_foreign(text_buffer &out, build_result *result) {
+    const std::unique_ptr<build_result, freed> record(result);
+    const std::unique_ptr<char, freed> text(record ? record->query : nullptr);
+    if (text)
+        out.append(text.get());
+}
+
+// Shows a tree. Texts are not shown; codes stand on lines of their own, at the margin.
+build_result *view(builder *self, node_kind kind, const void *node, void *data) {
+    text_buffer out;
+    std::vector<level> levels;
+    const auto show = [&](node_kind shown, const void *tree, std::intptr_t indentation) {
+        append_line(out, indentation, labels[shown], 0);
+        levels.push_back({tree, fields_of[shown], indentation});
+    };
+
+    show(kind, node, reinterpret_cast<std::intptr_t>(data));
+    while (!levels.empty()) {
+        level &current = levels.back();
+        const node_field &field = *current.next;
+        if (field.role == field_role::end) {
+            levels.pop_back();
+            continue;
+        }
+        ++current.next;
+        if (field.role == field_role::code) {
+            append_number(out, field_value<std::int32_t>(current.node, field));
+            out.append('\n');
+        } else if (field.role == field_role::child) {
+            auto *child = field_value<void *>(current.node, field);
+            const std::intptr_t indentation = current.indentation + indentation_step;
+            if (!child)
+                continue;
+            if (slots[field.kind].is_own(*self))
+                show(field.kind, child, indentation);
+            else
+                append_foreign(out, slots[field.kind].call(self, child,
+                                                           reinterpret_cast<void *>(indentation)));
+        }
+    }
+
+    build_result *result = quillet_build_result_create();
+    result->query = out.release();
+    return result;
+}
+
+} // namespace
+
+char *quillet_print(int indentation, const char *label, int number) {
+    text_buffer out;
+    append_line(out, indentation, label, number);
+    return out.release();
+}
+
+// quillet_<kind>_tree_view for every kind.
+#define NODE(kind)                                                                                 \
+    build_result *quillet_##kind##_tree_view(builder *self, node_##kind *node, void *data) {       \
+        return view(self, kind_##kind, node, data);                                                \
+    }
+#include "quillet_nodes.def"
+
+builder *quillet_tree_view_builder_create(void) {
+    auto *created = static_cast<builder *>(std::calloc(1, sizeof(builder)));
+#define NODE(kind) created->build_##kind = quillet_##kind##_tree_view;
+#include "quillet_nodes.def"
+    return created;
+}

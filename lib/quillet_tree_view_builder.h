@@ -1,0 +1,37 @@
+/*
+ * The builder tree: the parse tree, one node a line.
+ *
+ * The data argument of its operations is the indentation of the node's line, a number.
+ */
+#ifndef QUILLET_TREE_VIEW_BUILDER_H
+#define QUILLET_TREE_VIEW_BUILDER_H
+
+#include "quillet.h"
+#include "quillet_builder.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+extern quillet_builder_info quillet_tree_view_builder_info;
+
+/* Returns the builder's record in the registry, a static one. */
+QUILLET_API quillet_builder_info *quillet_tree_view_builder_get_info(void);
+
+/* Returns a new builder, which the caller owns. */
+QUILLET_API builder *quillet_tree_view_builder_create(void);
+
+/* Returns a new text: indentation blanks, the label, the number in brackets and a newline. */
+QUILLET_API char *quillet_print(int indentation, const char *label, int number);
+
+/* The operations, quillet_<kind>_tree_view. */
+#define NODE(kind)                                                                                 \
+    QUILLET_API build_result *quillet_##kind##_tree_view(builder *self, node_##kind *node,         \
+                                                         void *data);
+#include "quillet_nodes.def"
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

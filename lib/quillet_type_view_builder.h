@@ -1,0 +1,30 @@
+/*
+ * The builder type_view: PostgreSQL text in which every expression shows its inferred type.
+ */
+#ifndef QUILLET_TYPE_VIEW_BUILDER_H
+#define QUILLET_TYPE_VIEW_BUILDER_H
+
+#include "quillet.h"
+#include "quillet_builder.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+extern quillet_builder_info quillet_type_view_builder_info;
+
+/* Returns the builder's record in the registry, a static one. */
+QUILLET_API quillet_builder_info *quillet_type_view_builder_get_info(void);
+
+/* Returns a new builder, which the caller owns. */
+QUILLET_API builder *quillet_type_view_builder_create(void);
+
+/* Renders an expression by its parent's operation and puts its type before it: TYPE ( text ) . */
+QUILLET_API build_result *quillet_expression_type_view_builder(builder *self, node_expression *node,
+                                                               void *data);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
