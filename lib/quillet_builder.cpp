@@ -27,28 +27,6 @@ using namespace quillet;
 #include "quillet_functions.def"
 #undef DISPATCH
 
-namespace {
-
-constexpr int apply(int (*rule)(int, int), int left, int right) { return rule(left, right); }
-constexpr int apply(int (*rule)(int), int left, int) { return rule(left); }
-
-constexpr bool all = true;
-constexpr bool none = false;
-
-constexpr operator_rule default_operators[] = {
-#define OPERATOR(name, text, needs, rule)                                                          \
-    {operator_text(text), needs,                                                                   \
-     [](int left, int right) { return apply(quillet_get_result_type_##rule, left, right); }},
-#include "quillet_operators.def"
-};
-
-enum operator_id {
-#define OPERATOR(name, ...) operator_id_##name,
-#include "quillet_operators.def"
-};
-
-} // namespace
-
 // The default operations: quillet_<kind>_default_builder and
 // quillet_operator_<name>_default_builder.
 #define NODE(kind)                                                                                 \
@@ -81,6 +59,7 @@ const dialect default_dialect = {
 #include "quillet_nodes.def"
     .operators = default_operators,
     .functions = nullptr,
+    .cast = &default_cast,
     .frame = nullptr,
     .next = nullptr,
 };

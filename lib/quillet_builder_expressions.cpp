@@ -1,6 +1,8 @@
 // The default rendering of expressions: the walk along their left spine, and the operators.
 
+#include <algorithm>
 #include <iterator>
+#include <string>
 
 #include "quillet_builder_lists.h"
 #include "quillet_name_index.h"
@@ -34,13 +36,14 @@ std::int32_t type_of(const node_expression *node, rendered result) {
     return node && result.record ? node->sql_type : 0;
 }
 
-bool has_all_operands(const operator_text &text, const node_expression &node) {
+bool has_all_operands(const text_template &text, const node_expression &node) {
     for (int i = 0; i < text.count; ++i) {
         const bool there = [&] {
             switch (text.pieces[i].mark) {
             case operand::first: return node.expression_1 != nullptr;
             case operand::second: return node.expression_2 != nullptr;
             case operand::third: return node.expression_3 != nullptr;
+            case operand::fourth: return false; // operators have three operands
             case operand::truth: return node.const_boolean != nullptr;
             case operand::pair_1: return node.overlaps_expression_1 != nullptr;
             case operand::pair_2: return node.overlaps_expression_2 != nullptr;
@@ -55,32 +58,102 @@ bool has_all_operands(const operator_text &text, const node_expression &node) {
     return true;
 }
 
+// A part of the text.
+struct region {
+    std::size_t begin = 0;
+    std::size_t size = 0;
+};
+
 // Renders what follows an operator's first operand, whose outcome is first, and types the node.
-rendered complete_operator(rendering &r, const operator_rule &rule, node_expression *node,
-                           rendered first) {
+// The operation's text begins at begin.
+rendered complete_by_text(rendering &r, const operator_rule &rule, node_expression *node,
+                          rendering::place begin, rendered first) {
+    const text_template &text = rule.text;
     rendered result{true, true, first.status};
     rendered second;
-    std::size_t begin = 0; // of the operand that an ESCAPE follows
-    for (int i = rule.text.begins_with_operand() ? 1 : 0; i < rule.text.count; ++i) {
-        const operator_text::piece &piece = rule.text.pieces[i];
+    region first_text;
+    region second_text;
+    std::size_t before_escape = 0; // where the operand begins that an ESCAPE follows
+    int i = 0;
+    if (text.begins_with_operand()) {
+        i = 1;
+        first_text.begin = begin.size + text.pieces[0].literal.size();
+        if (text.repeats)
+            r.settle(begin);
+        first_text.size = r.out.size() - first_text.begin;
+    }
+    for (; i < text.count; ++i) {
+        const text_template::piece &piece = text.pieces[i];
         r.out.append(piece.literal);
+        if (!piece.literal.empty())
+            before_escape = 0;
         switch (piece.mark) {
-        case operand::first:
-        case operand::none: break;
-        case operand::second:
-            begin = r.out.size();
+        case operand::first: r.out.append_copy(first_text.begin, first_text.size); break;
+        case operand::second: {
+            if (second_text.begin != 0) {
+                r.out.append_copy(second_text.begin, second_text.size);
+                break;
+            }
+            const auto second_begin = r.here();
             second = r.child(node->expression_2);
             result.fail_with(second);
+            if (text.repeats)
+                r.settle(second_begin);
+            second_text = {second_begin.size, r.out.size() - second_begin.size};
+            before_escape = second_begin.size;
             break;
+        }
         case operand::third: result.fail_with(r.child(node->expression_3)); break;
         case operand::truth: result.fail_with(r.child(node->const_boolean)); break;
-        case operand::escape: result.fail_with(r.spaced_child(begin, node->escape)); break;
+        case operand::escape: result.fail_with(r.spaced_child(before_escape, node->escape)); break;
         case operand::pair_1: result.fail_with(r.child(node->overlaps_expression_1)); break;
         case operand::pair_2: result.fail_with(r.child(node->overlaps_expression_2)); break;
+        case operand::fourth:
+        case operand::none: break;
         }
     }
     node->sql_type =
         rule.type(type_of(node->expression_1, first), type_of(node->expression_2, second));
+    return result;
+}
+
+bool is_in_order(const text_template &text) { return text.begins_with_operand(); }
+
+// The same for a rule that chooses its text by the operands' types. What stands before and between
+// them is put in afterwards.
+rendered complete_by_choice(rendering &r, const operator_rule &rule, node_expression *node,
+                            rendering::place begin, rendered first) {
+    const auto before_second = r.here();
+    const std::size_t between = r.reserve_insertion();
+    const rendered second = r.child(node->expression_2);
+    rendered result{true, true, first.status};
+    result.fail_with(second);
+
+    const operator_choice choice =
+        rule.choose(rule, type_of(node->expression_1, first), type_of(node->expression_2, second));
+    if (!choice.text) {
+        r.drop_from(begin);
+        return {true, false, QUILLET_BUILD_CANNOT_RENDER};
+    }
+    node->sql_type = choice.type;
+    const text_template &text = *choice.text;
+    if (is_in_order(text) && !choice.skipped) {
+        r.insert(begin.insertions, text.pieces[0].literal);
+        if (text.count > 1)
+            r.insert(between, text.pieces[1].literal);
+        if (text.count > 2)
+            r.out.append(text.pieces[2].literal);
+        return result;
+    }
+    const std::size_t second_size = r.settle(before_second) + r.out.size() - before_second.size;
+    r.settle(begin);
+    const std::string operands(r.out.from(begin.size));
+    r.drop_from(begin);
+    const std::string_view both(operands);
+    const std::size_t split = both.size() - second_size;
+    append_filled(
+        r.out, text,
+        {both.substr(0, split).substr(std::min(choice.skipped, split)), both.substr(split)});
     return result;
 }
 
@@ -142,30 +215,49 @@ rendered render_leaf(rendering &r, node_expression *node, chosen_leaf &chosen) {
 
 using step = rendering::expression_step;
 
+const operator_rule &picked(const operator_rule &rule, const node_expression &node) {
+    return rule.pick ? rule.pick(node) : rule;
+}
+
+// Whether a rule's rendering begins with the first operand, so that the walk can go down there.
+bool goes_down(const operator_rule &rule, const node_expression &node) {
+    return !rule.instead && rule.text.begins_with_operand() && node.expression_1 &&
+           (!rule.needs_all || has_all_operands(rule.text, node));
+}
+
+// Writes what stands before the first operand, or keeps a place for it.
+void begin_operation(rendering &r, const operator_rule &rule) {
+    if (rule.choose)
+        r.reserve_insertion();
+    else
+        r.out.append(rule.text.pieces[0].literal);
+}
+
+rendered end_operation(rendering &r, const operator_rule &rule, node_expression *node,
+                       rendering::place begin, rendered first) {
+    return rule.choose ? complete_by_choice(r, rule, node, begin, first)
+                       : complete_by_text(r, rule, node, begin, first);
+}
+
 bool is_only_a_cast(const node_expression &node) {
     return node.cast_expression && node.cast_expression->expression && !node.function_call &&
-           !node.column_reference && !node.const_generic && !node.case_expression;
-}
-
-bool casts_are_default(const builder &self) {
-    return self.build_cast_expression == quillet_cast_expression_default_builder;
-}
-
-void close_cast(rendering &r, node_cast_expression &cast) {
-    r.out.append(" AS ");
-    r.out.append(quillet_type_to_string(cast.type));
-    r.out.append(')');
-    cast.sql_type = cast.type;
+           !node.column_reference && !node.const_generic && !node.case_expression &&
+           !node.expression_1 && !node.expression_2 && !node.operator_;
 }
 
 // Begins an expression: renders it whole and returns its outcome, or writes what stands before its
 // first operand, says in begun how it goes on, and returns that operand.
 node_expression *begin_expression(rendering &r, step &begun, rendered &outcome) {
     node_expression *node = begun.node;
-    if (is_only_a_cast(*node) && casts_are_default(*r.self)) {
-        r.out.append("CAST(");
-        begun.kind = step::cast;
-        return node->cast_expression->expression;
+    begun.begin = r.here();
+    if (is_only_a_cast(*node)) {
+        constexpr auto slot = &builder::build_cast_expression;
+        if (const dialect *home = rendering::dialect_of(slot, r.self->*slot)) {
+            begun.kind = step::type_cast;
+            begun.cast = home->cast;
+            begun.cast->begin(r, *node->cast_expression);
+            return node->cast_expression->expression;
+        }
     }
 
     chosen_leaf chosen;
@@ -201,18 +293,14 @@ node_expression *begin_expression(rendering &r, step &begun, rendered &outcome) 
         outcome = r.take(own(r.self, node, nullptr));
         return nullptr;
     }
-    const operator_rule &rule = home->operators[index];
-    if (!rule.text.begins_with_operand() || !node->expression_1) {
+    const operator_rule &rule = picked(home->operators[index], *node);
+    if (!goes_down(rule, *node)) {
         outcome = render_by_rule(r, rule, node);
         return nullptr;
     }
-    if (rule.needs_all && !has_all_operands(rule.text, *node)) {
-        outcome = missing_part;
-        return nullptr;
-    }
-    r.out.append(rule.text.pieces[0].literal);
     begun.kind = step::operation;
     begun.rule = &rule;
+    begin_operation(r, rule);
     return node->expression_1;
 }
 
@@ -220,11 +308,13 @@ node_expression *begin_expression(rendering &r, step &begun, rendered &outcome) 
 rendered end_expression(rendering &r, const step &begun, rendered first) {
     node_expression *node = begun.node;
     switch (begun.kind) {
-    case step::operation: return complete_operator(r, *begun.rule, node, first);
-    case step::cast:
-        close_cast(r, *node->cast_expression);
-        node->sql_type = node->cast_expression->sql_type;
-        break;
+    case step::operation: return end_operation(r, *begun.rule, node, begun.begin, first);
+    case step::type_cast: {
+        const rendered result = begun.cast->end(r, *node->cast_expression, begun.begin, first);
+        if (result.text)
+            node->sql_type = node->cast_expression->sql_type;
+        return result.text || result.status ? result : missing_part;
+    }
     case step::parentheses:
         r.out.append(')');
         node->sql_type = node->expression_1->sql_type;
@@ -246,15 +336,19 @@ rendered close_frame(rendering &r, const step &begun, rendered result) {
 
 } // namespace
 
-rendered render_by_rule(rendering &r, const operator_rule &rule, node_expression *node) {
+rendered render_by_rule(rendering &r, const operator_rule &own, node_expression *node) {
+    const operator_rule &rule = picked(own, *node);
+    if (rule.instead)
+        return rule.instead(r, node);
     if (rule.needs_all && !has_all_operands(rule.text, *node))
         return missing_part;
+    const auto begin = r.here();
     rendered first;
     if (rule.text.begins_with_operand()) {
-        r.out.append(rule.text.pieces[0].literal);
+        begin_operation(r, rule);
         first = r.child(node->expression_1);
     }
-    return complete_operator(r, rule, node, first);
+    return end_operation(r, rule, node, begin, first);
 }
 
 // Goes down through first operands as long as they are rendered by this very operation, then
@@ -293,12 +387,26 @@ rendered render_expression(rendering &r, node_expression *node, void *) {
     return render_expression_framed(r, node, nullptr);
 }
 
-rendered render_cast_expression(rendering &r, node_cast_expression *node, void *) {
+const cast_rule default_cast = {
+    [](rendering &r, const node_cast_expression &) { r.out.append("CAST("); },
+    [](rendering &r, node_cast_expression &node, rendering::place, rendered operand) {
+        r.out.append(" AS ");
+        r.out.append(quillet_type_to_string(node.type));
+        r.out.append(')');
+        node.sql_type = node.type;
+        return rendered{true, true, operand.status};
+    }};
+
+rendered render_cast(rendering &r, const cast_rule &rule, node_cast_expression *node) {
     if (!node->expression)
         return missing_part;
-    const rendered result = r.enclosed_child("CAST(", node->expression);
-    close_cast(r, *node);
-    return result;
+    const auto begin = r.here();
+    rule.begin(r, *node);
+    return rule.end(r, *node, begin, r.child(node->expression));
+}
+
+rendered render_cast_expression(rendering &r, node_cast_expression *node, void *) {
+    return render_cast(r, default_cast, node);
 }
 
 rendered render_overlaps_expression(rendering &r, node_overlaps_expression *node, void *) {

@@ -1,6 +1,7 @@
 #include "quillet_builder_rendering.h"
 
 #include <cstdlib>
+#include <cstring>
 
 namespace quillet {
 
@@ -32,7 +33,7 @@ void rendering::drop_between(place begin, place end) {
 }
 
 // Moves the text from its end to where it belongs, so that each part is moved once.
-void rendering::settle(place begin) {
+std::size_t rendering::settle(place begin) {
     std::size_t added = 0;
     for (std::size_t i = begin.insertions; i < insertions_.size(); ++i)
         added += insertions_[i].text.size();
@@ -51,6 +52,7 @@ void rendering::settle(place begin) {
         }
     }
     insertions_.resize(begin.insertions);
+    return added;
 }
 
 build_result *finished(rendering &r, rendered result) {

@@ -51,10 +51,12 @@ struct expression_frame {
     std::string_view end;
 };
 
-class rendering;
-
 template <class Node> using renderer = rendered (*)(rendering &, Node *, void *data);
 template <class Node> using operation = build_result *(*)(builder *, Node *, void *data);
+
+// How a dialect renders a cast, in two steps round the expression, so that a chain of casts needs
+// no stack. The node has an expression; end gets where the text before the expression began.
+struct cast_rule;
 
 // The operations of one builder of this library beside the renderers behind them.
 struct dialect {
@@ -63,6 +65,7 @@ struct dialect {
 #include "quillet_nodes.def"
     const operator_rule *operators;
     const renderer<node_function_call> *functions;
+    const cast_rule *cast;
     const expression_frame *frame;
     const dialect *next; // in the list of dialects that renderings know
 };
@@ -172,8 +175,8 @@ public:
     // Fills a reserved place. The text must outlive the rendering.
     void insert(std::size_t index, std::string_view text) { insertions_[index].text = text; }
 
-    // Puts the insertions behind a place into the text.
-    void settle(place begin);
+    // Puts the insertions behind a place into the text. Returns how much longer the text got.
+    std::size_t settle(place begin);
 
     // Scratch for the walks down a chain, so that they need no stack of their own.
     struct link {
@@ -183,12 +186,14 @@ public:
 
     // An expression whose first operand is being rendered.
     struct expression_step {
-        enum : std::uint8_t { parentheses, operation, cast } kind = parentheses;
+        enum : std::uint8_t { parentheses, operation, type_cast } kind = parentheses;
         std::int32_t status = 0; // of what was tried on the node before
         node_expression *node = nullptr;
         const operator_rule *rule = nullptr;
         const expression_frame *frame = nullptr;
         std::size_t insertion = 0; // the frame's beginning
+        place begin{};             // of the operation or cast, its frame excluded
+        const cast_rule *cast = nullptr;
     };
 
     std::vector<link> links;
@@ -216,6 +221,17 @@ private:
 
     std::vector<insertion> insertions_; // in the order of their places
 };
+
+struct cast_rule {
+    void (*begin)(rendering &r, const node_cast_expression &node);
+    rendered (*end)(rendering &r, node_cast_expression &node, rendering::place begin,
+                    rendered operand);
+};
+
+// Renders a cast by a rule.
+rendered render_cast(rendering &r, const cast_rule &rule, node_cast_expression *node);
+
+extern const cast_rule default_cast;
 
 // The outcome of a rendering as a public operation returns it.
 build_result *finished(rendering &r, rendered result);
