@@ -54,7 +54,11 @@ extern "C" int yy_quillet_parse(void);
 }
 
 %code {
+#include "quillet_limits.h"
 #include "quillet_parser_actions.h"
+
+#define YYINITDEPTH QUILLET_PARSER_STACK_INITIAL
+#define YYMAXDEPTH QUILLET_PARSER_STACK_MAXIMUM
 
 using namespace quillet;
 }

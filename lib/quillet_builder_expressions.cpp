@@ -73,6 +73,10 @@ rendered complete_by_text(rendering &r, const operator_rule &rule, node_expressi
     rendered second;
     region first_text;
     region second_text;
+    const auto dropped = [&] {
+        r.drop_from(begin);
+        return refused;
+    };
     std::size_t before_escape = 0; // where the operand begins that an ESCAPE follows
     int i = 0;
     if (text.begins_with_operand()) {
@@ -88,9 +92,15 @@ rendered complete_by_text(rendering &r, const operator_rule &rule, node_expressi
         if (!piece.literal.empty())
             before_escape = 0;
         switch (piece.mark) {
-        case operand::first: r.out.append_copy(first_text.begin, first_text.size); break;
+        case operand::first:
+            if (!r.has_room_for(first_text.size))
+                return dropped();
+            r.out.append_copy(first_text.begin, first_text.size);
+            break;
         case operand::second: {
             if (second_text.begin != 0) {
+                if (!r.has_room_for(second_text.size))
+                    return dropped();
                 r.out.append_copy(second_text.begin, second_text.size);
                 break;
             }
@@ -133,7 +143,7 @@ rendered complete_by_choice(rendering &r, const operator_rule &rule, node_expres
         rule.choose(rule, type_of(node->expression_1, first), type_of(node->expression_2, second));
     if (!choice.text) {
         r.drop_from(begin);
-        return {true, false, QUILLET_BUILD_CANNOT_RENDER};
+        return refused;
     }
     node->sql_type = choice.type;
     const text_template &text = *choice.text;
@@ -359,6 +369,8 @@ rendered render_expression_framed(rendering &r, node_expression *node,
         rendering::dialect_of(&builder::build_expression, r.self->build_expression);
     const std::size_t base = r.steps.size();
     rendered result;
+    if (r.is_exhausted())
+        return refused;
     for (;;) {
         step next{.node = node, .frame = frame};
         if (frame)

@@ -1,9 +1,40 @@
 #include "quillet_builder_rendering.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
+#include <sys/resource.h>
+
 namespace quillet {
+
+const void *rendering::stack_floor = nullptr;
+
+namespace {
+
+// The address below which the stack must not grow, seen from a frame near its top.
+const void *floor_below(const void *frame) {
+    static const std::size_t usable = [] {
+        rlimit limit{};
+        const bool limited = getrlimit(RLIMIT_STACK, &limit) == 0;
+        return std::min<rlim_t>(limited ? limit.rlim_cur : QUILLET_STACK_SIZE_ASSUMED,
+                                QUILLET_STACK_SIZE_ASSUMED) /
+               QUILLET_STACK_SHARE;
+    }();
+    return static_cast<const char *>(frame) - usable;
+}
+
+} // namespace
+
+rendering::rendering(builder *renderer) : self(renderer), outermost_(!stack_floor) {
+    if (outermost_)
+        stack_floor = floor_below(__builtin_frame_address(0));
+}
+
+rendering::~rendering() {
+    if (outermost_)
+        stack_floor = nullptr;
+}
 
 void rendering::know(dialect &own) {
     for (const dialect *known = dialects; known; known = known->next)
@@ -58,12 +89,17 @@ std::size_t rendering::settle(place begin) {
 build_result *finished(rendering &r, rendered result) {
     if (!result.record)
         return nullptr;
-    build_result *record = quillet_build_result_create();
-    record->build_result = result.status;
     if (result.text) {
         r.settle({0, 0});
-        record->query = r.out.release();
+        if (!r.has_room_for(0))
+            result = refused;
     }
+    if (r.is_exhausted())
+        result = refused;
+    build_result *record = quillet_build_result_create();
+    record->build_result = result.status;
+    if (result.text)
+        record->query = r.out.release();
     return record;
 }
 

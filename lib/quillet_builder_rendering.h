@@ -21,6 +21,7 @@
 #include "quillet_build_result.h"
 #include "quillet_builder.h"
 #include "quillet_builder_operators.h"
+#include "quillet_limits.h"
 #include "quillet_text_buffer.h"
 
 namespace quillet {
@@ -93,9 +94,14 @@ static_assert(std::size(operator_slots) == 45);
 static_assert(std::size(function_slots) == 93);
 static_assert(sizeof(builder) == sizeof(void *) * (1 + 193));
 
+inline constexpr rendered refused{true, false, QUILLET_BUILD_CANNOT_RENDER};
+
 class rendering {
 public:
-    explicit rendering(builder *renderer) : self(renderer) {}
+    explicit rendering(builder *renderer);
+    ~rendering();
+    rendering(const rendering &) = delete;
+    rendering &operator=(const rendering &) = delete;
 
     builder *const self; // the builder whose slots render the children
     text_buffer out;
@@ -199,6 +205,20 @@ public:
     std::vector<link> links;
     std::vector<expression_step> steps;
 
+    // Whether a limit has been reached. Nothing more is rendered then, and the rendering fails.
+    bool is_exhausted() {
+        if (__builtin_frame_address(0) < stack_floor)
+            exhausted_ = true;
+        return exhausted_;
+    }
+
+    // Whether more characters fit in. If they do not, a limit has been reached.
+    bool has_room_for(std::size_t more) {
+        if (out.size() + more > QUILLET_TEXT_SIZE_MAXIMUM)
+            exhausted_ = true;
+        return !exhausted_;
+    }
+
     // The dialect to which an operation in a slot belongs, NULL for a host's own.
     template <class Operation>
     static const dialect *dialect_of(Operation builder::*slot, Operation found) {
@@ -216,6 +236,10 @@ private:
         std::size_t position;
         std::string_view text;
     };
+
+    static const void *stack_floor; // of the outermost rendering, NULL outside of one
+    const bool outermost_;
+    bool exhausted_ = false;
 
     static const dialect *dialects; // the default one is the last
 

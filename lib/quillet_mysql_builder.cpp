@@ -37,7 +37,7 @@ const char *quillet_mysql_get_error_description(void) {
 
 rendered quillet::refuse(mysql_error reason) {
     mysql_error_code = reason;
-    return {true, false, QUILLET_BUILD_CANNOT_RENDER};
+    return refused;
 }
 
 // The rules.

@@ -104,24 +104,34 @@ std::string_view operand_texts::operator[](int index) const {
     return r_.out.from(begin).substr(0, ends_[index] - begin);
 }
 
+rendered operand_texts::fill(const text_template &text,
+                             std::initializer_list<std::string_view> operands) {
+    drop();
+    if (!r_.has_room_for(filled_size(text, operands)))
+        return refused;
+    append_filled(r_.out, text, operands);
+    return {true, true, status_.status};
+}
+
 rendered operand_texts::write(const text_template &text) {
     std::string copies[4];
     for (int i = 0; i < count_; ++i)
         copies[i] = (*this)[i];
-    drop();
-    append_filled(r_.out, text, {copies[0], copies[1], copies[2], copies[3]});
-    return {true, true, status_.status};
+    return fill(text, {copies[0], copies[1], copies[2], copies[3]});
+}
+
+rendered operand_texts::write_last(const text_template &text) {
+    return fill(text, {std::string((*this)[count_ - 1])});
 }
 
 rendered operand_texts::write_with(const text_template &text, std::string_view second) {
-    const std::string first((*this)[0]);
-    drop();
-    append_filled(r_.out, text, {first, second});
-    return {true, true, status_.status};
+    return fill(text, {std::string((*this)[0]), second});
 }
 
 rendered operand_texts::write(std::string_view text) {
     drop();
+    if (!r_.has_room_for(text.size()))
+        return refused;
     r_.out.append(text);
     return {true, true, status_.status};
 }

@@ -62,16 +62,14 @@ void append_truncation(text_buffer &out, const date_field &field,
 
 // EXTRACT and DATE_PART of a source that has been rendered as the last of the operands.
 rendered render_field(node_function_call *call, operand_texts &operands, std::string_view name,
-                      std::string_view source, int type) {
+                      int type) {
     call->sql_type = equal_ignoring_case(name, "second") ? QUILLET_TYPE_FLOAT8 : QUILLET_TYPE_INT8;
     const text_template *text = extraction(field_named(name), type);
     if (!text) {
         operands.drop();
         return refuse(mysql_error_EXTRACT_FIELD);
     }
-    text_buffer out;
-    append_filled(out, *text, {source});
-    return operands.write(out.from(0));
+    return operands.write_last(*text);
 }
 
 std::int32_t type_of(const node_expression *node, rendered result) {
@@ -88,7 +86,7 @@ rendered render_date_part(rendering &r, node_function_call *call) {
     operand_texts operands(r);
     operands.add(field);
     const int type = type_of(source, operands.add(source));
-    return render_field(call, operands, without_quotes(operands[0]), operands[1], type);
+    return render_field(call, operands, without_quotes(operands[0]), type);
 }
 
 rendered render_extract(rendering &r, node_function_call *call) {
@@ -100,7 +98,7 @@ rendered render_extract(rendering &r, node_function_call *call) {
     operand_texts operands(r);
     operands.add(column->column_name);
     const int type = type_of(argument->expression_2, operands.add(argument->expression_2));
-    return render_field(call, operands, operands[0], operands[1], type);
+    return render_field(call, operands, operands[0], type);
 }
 
 rendered render_date_trunc(rendering &r, node_function_call *call) {

@@ -50,7 +50,7 @@ const operator_rule &pick_is_not(const node_expression &node) {
 
 namespace {
 
-operator_choice refused(mysql_error reason) {
+operator_choice no_choice(mysql_error reason) {
     refuse(reason);
     return {};
 }
@@ -89,7 +89,7 @@ operator_choice choose_sum(const operator_rule &rule, int left, int right) {
         return {right == QUILLET_TYPE_TIMESTAMP ? &time_earlier : &cast_time_earlier,
                 QUILLET_TYPE_TIMESTAMP};
     if (is_interval_with_time(left, right))
-        return refused(mysql_error_INTERVAL_SUM);
+        return no_choice(mysql_error_INTERVAL_SUM);
     return by_default(rule, left, right);
 }
 
@@ -100,26 +100,26 @@ operator_choice choose_difference(const operator_rule &rule, int left, int right
     if (are(left, right, QUILLET_TYPE_DATE, QUILLET_TYPE_DATE))
         return {&days_between, QUILLET_TYPE_INT8};
     if (are(left, right, QUILLET_TYPE_TIME, QUILLET_TYPE_TIME))
-        return refused(mysql_error_INTERVAL_DIFFERENCE);
+        return no_choice(mysql_error_INTERVAL_DIFFERENCE);
     if (left == QUILLET_TYPE_DATE && quillet_is_integer(right))
         return {&days_earlier, QUILLET_TYPE_DATE};
     if (quillet_is_integer(left) && right == QUILLET_TYPE_DATE)
         return {&days_swapped, QUILLET_TYPE_DATE};
     if (is_interval_with_time(left, right) ||
         are(left, right, QUILLET_TYPE_TIMESTAMP, QUILLET_TYPE_TIMESTAMP))
-        return refused(mysql_error_INTERVAL_DIFFERENCE);
+        return no_choice(mysql_error_INTERVAL_DIFFERENCE);
     return by_default(rule, left, right);
 }
 
 operator_choice choose_product(const operator_rule &rule, int left, int right) {
     if (left == QUILLET_TYPE_INTERVAL || right == QUILLET_TYPE_INTERVAL)
-        return refused(mysql_error_INTERVAL_PRODUCT);
+        return no_choice(mysql_error_INTERVAL_PRODUCT);
     return by_default(rule, left, right);
 }
 
 operator_choice choose_quotient(const operator_rule &rule, int left, int right) {
     if (left == QUILLET_TYPE_INTERVAL || right == QUILLET_TYPE_INTERVAL)
-        return refused(mysql_error_INTERVAL_QUOTIENT);
+        return no_choice(mysql_error_INTERVAL_QUOTIENT);
     return by_default(rule, left, right);
 }
 

@@ -76,10 +76,15 @@ public:
     rendered write(const text_template &text);
     rendered write(std::string_view text);
 
+    // Writes a text of the last operand alone, as $1.
+    rendered write_last(const text_template &text);
+
     // Writes a text of the first operand and one more that was not rendered, $2.
     rendered write_with(const text_template &text, std::string_view second);
 
 private:
+    rendered fill(const text_template &text, std::initializer_list<std::string_view> operands);
+
     rendering &r_;
     rendering::place begin_;
     std::size_t ends_[4] = {};

@@ -75,6 +75,10 @@ private:
     }
 };
 
+// The size of a text whose operands, $1 and so on, are known.
+std::size_t filled_size(const text_template &text,
+                        std::initializer_list<std::string_view> operands);
+
 // Writes a text whose operands, $1 and so on, are known.
 void append_filled(text_buffer &out, const text_template &text,
                    std::initializer_list<std::string_view> operands);

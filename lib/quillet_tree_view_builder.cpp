@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "quillet_limits.h"
 #include "quillet_text_buffer.h"
 #include "quillet_tree_node_kinds.h"
 
@@ -90,6 +91,11 @@ build_result *view(builder *self, node_kind kind, const void *node, void *data) 
 
     show(kind, node, reinterpret_cast<std::intptr_t>(data));
     while (!levels.empty()) {
+        if (out.size() > QUILLET_TEXT_SIZE_MAXIMUM) {
+            build_result *refused = quillet_build_result_create();
+            refused->build_result = QUILLET_BUILD_CANNOT_RENDER;
+            return refused;
+        }
         level &current = levels.back();
         const node_field &field = *current.next;
         if (field.role == field_role::end) {
