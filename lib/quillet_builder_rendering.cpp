@@ -79,7 +79,7 @@ std::size_t rendering::settle(place begin) {
             source = next.position;
             std::memmove(out.at(target), out.at(source), moved);
             target -= next.text.size();
-            std::memcpy(out.at(target), next.text.data(), next.text.size());
+            next.text.copy(out.at(target), next.text.size());
         }
     }
     insertions_.resize(begin.insertions);
