@@ -10,3 +10,7 @@ if(QUILLET_SANITIZERS)
         -fsanitize=${QUILLET_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(quillet_options INTERFACE -fsanitize=${QUILLET_SANITIZERS})
 endif()
+
+if(QUILLET_FUZZERS)
+    target_compile_options(quillet_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
