@@ -346,8 +346,9 @@ rendered close_frame(rendering &r, const step &begun, rendered result) {
 
 } // namespace
 
-rendered render_by_rule(rendering &r, const operator_rule &own, node_expression *node) {
-    const operator_rule &rule = picked(own, *node);
+rendered render_by_rule(rendering &r, const operator_rule &rule, node_expression *node) {
+    if (rule.pick)
+        return render_by_rule(r, rule.pick(*node), node);
     if (rule.instead)
         return rule.instead(r, node);
     if (rule.needs_all && !has_all_operands(rule.text, *node))

@@ -12,13 +12,13 @@
 /* The size of a rendered text. Texts that stand twice in their own rendering double with every
    level, and the indentation of a deep tree grows with its square: without a limit, a short
    statement could take all memory there is. */
-#define QUILLET_TEXT_SIZE_MAXIMUM (256u * 1024 * 1024)
+#define QUILLET_TEXT_SIZE_MAXIMUM (256UL * 1024 * 1024)
 
 /* The share of the machine stack's size that rendering may use, as a divisor: the rest belongs to
    the host, which may be deep in its own calls. */
 #define QUILLET_STACK_SHARE 2
 
 /* The stack's size if the system does not limit it, and the most that is relied upon. */
-#define QUILLET_STACK_SIZE_ASSUMED (8u * 1024 * 1024)
+#define QUILLET_STACK_SIZE_ASSUMED (8UL * 1024 * 1024)
 
 #endif
