@@ -21,4 +21,8 @@
 /* The stack's size if the system does not limit it, and the most that is relied upon. */
 #define QUILLET_STACK_SIZE_ASSUMED (8UL * 1024 * 1024)
 
+/* The blocks of memory, of some 150 bytes at most, that are kept for the next statement: enough for
+   the tree of a usual one. */
+#define QUILLET_KEPT_BLOCKS_MAXIMUM 4096
+
 #endif

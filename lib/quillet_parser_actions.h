@@ -6,8 +6,11 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <new>
+#include <string_view>
 
 #include "quillet_globals.h"
+#include "quillet_memory.h"
 #include "quillet_strings_tools.h"
 #include "quillet_tree_node.h"
 #include "quillet_types.h"
@@ -15,7 +18,7 @@
 namespace quillet {
 
 // release(value) frees a semantic value of any type.
-inline void release(char *text) { std::free(text); }
+inline void release(char *text) { _quillet_memory_give(text); }
 #define NODE(kind)                                                                                 \
     inline void release(node_##kind *node) { quillet_node_##kind##_free(node); }
 #include "quillet_nodes.def"
@@ -23,34 +26,39 @@ inline void release(char *text) { std::free(text); }
 // make(node_<kind>{...}) returns a new node with these fields.
 #define NODE(kind)                                                                                 \
     inline node_##kind *make(const node_##kind &fields) {                                          \
-        node_##kind *node = quillet_node_##kind##_create();                                        \
-        *node = fields;                                                                            \
-        return node;                                                                               \
+        return new (_quillet_memory_take(sizeof(node_##kind))) node_##kind(fields);                \
     }
 #include "quillet_nodes.def"
 
 inline node_identifier *name(char *text) { return make(node_identifier{.name = text}); }
 
+inline char *text_copy(std::string_view text) {
+    auto *copy = static_cast<char *>(_quillet_memory_take(text.size() + 1));
+    std::memcpy(copy, text.data(), text.size());
+    copy[text.size()] = '\0';
+    return copy;
+}
+
 // Operator applications.
 
-inline node_expression *operation(const char *name, node_expression *first,
+inline node_expression *operation(std::string_view name, node_expression *first,
                                   node_expression *second = nullptr,
                                   node_expression *third = nullptr) {
-    return make(node_expression{.operator_ = strdup(name),
+    return make(node_expression{.operator_ = text_copy(name),
                                 .expression_1 = first,
                                 .expression_2 = second,
                                 .expression_3 = third});
 }
 
-inline node_expression *truth_test(const char *name, node_expression *tested,
+inline node_expression *truth_test(std::string_view name, node_expression *tested,
                                    node_const_boolean *value) {
-    return make(
-        node_expression{.operator_ = strdup(name), .expression_1 = tested, .const_boolean = value});
+    return make(node_expression{
+        .operator_ = text_copy(name), .expression_1 = tested, .const_boolean = value});
 }
 
-inline node_expression *match(const char *name, node_expression *matched, node_expression *pattern,
-                              node_escape *escape = nullptr) {
-    return make(node_expression{.operator_ = strdup(name),
+inline node_expression *match(std::string_view name, node_expression *matched,
+                              node_expression *pattern, node_escape *escape = nullptr) {
+    return make(node_expression{.operator_ = text_copy(name),
                                 .expression_1 = matched,
                                 .expression_2 = pattern,
                                 .escape = escape});
@@ -58,7 +66,7 @@ inline node_expression *match(const char *name, node_expression *matched, node_e
 
 inline node_expression *overlaps(node_overlaps_expression *first,
                                  node_overlaps_expression *second) {
-    return make(node_expression{.operator_ = strdup("operator_overlaps"),
+    return make(node_expression{.operator_ = text_copy("operator_overlaps"),
                                 .overlaps_expression_1 = first,
                                 .overlaps_expression_2 = second});
 }

@@ -1,7 +1,8 @@
 #include "quillet_tree_node.h"
 
-#include <cstdlib>
+#include <new>
 
+#include "quillet_memory.h"
 #include "quillet_tree_node_kinds.h"
 
 namespace quillet {
@@ -17,7 +18,7 @@ void free_tree(node_kind kind, void *node) {
     for (;;) {
         const node_field &field = fields_of[kind][next];
         if (field.role == field_role::end) {
-            std::free(node);
+            _quillet_memory_give(node);
             if (!parent)
                 return;
             node = parent;
@@ -28,7 +29,7 @@ void free_tree(node_kind kind, void *node) {
             continue;
         }
         if (field.role == field_role::text)
-            std::free(field_value<void *>(node, field));
+            _quillet_memory_give(field_value<void *>(node, field));
         void *child = field.role == field_role::child ? field_value<void *>(node, field) : nullptr;
         if (!child) {
             ++next;
@@ -49,7 +50,7 @@ void free_tree(node_kind kind, void *node) {
 // quillet_node_<kind>_create and quillet_node_<kind>_free for every kind.
 #define NODE(kind)                                                                                 \
     node_##kind *quillet_node_##kind##_create(void) {                                              \
-        return static_cast<node_##kind *>(std::calloc(1, sizeof(node_##kind)));                    \
+        return new (_quillet_memory_take(sizeof(node_##kind))) node_##kind{};                      \
     }                                                                                              \
     void quillet_node_##kind##_free(node_##kind *node) {                                           \
         quillet::free_tree(quillet::kind_##kind, node);                                            \
