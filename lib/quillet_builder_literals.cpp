@@ -16,66 +16,53 @@ rendered render_literal(rendering &r, const char *text, std::int32_t &sql_type, 
     return a_text;
 }
 
-// Renders the string of a typed literal with the type word before it and, for a date or time, the
-// time zone behind it.
-rendered render_typed_string(rendering &r, node_const_generic &node, rendered &zone) {
+// Renders a form of a literal, which counts if none before it had a text.
+template <class Form>
+void render_form(rendering &r, node_const_generic &node, Form *form, int type, rendered &chosen) {
     const auto begin = r.here();
-    const std::string_view word = quillet_type_to_string(node.type);
-    if (!word.empty()) {
-        r.out.append(word);
-        r.out.append(' ');
-    }
-    const std::size_t behind_word = r.out.size();
-    const rendered string = r.child(node.const_string);
-    if (!string.text) {
+    const rendered result = r.child(form);
+    chosen.fail_with(result);
+    if (chosen.text)
         r.drop_from(begin);
-        return string;
-    }
-    const auto behind_string = r.here();
-    zone = r.spaced_child(behind_word, node.at_time_zone);
-    if (!quillet_is_datetime(node.type))
-        r.drop_from(behind_string);
-    if (!word.empty() && r.out.size() == behind_word)
-        r.out.truncate(behind_word - 1);
-    return string;
+    else if (result.text)
+        node.sql_type = type;
+    chosen.text = chosen.text || result.text;
 }
 
 } // namespace
 
+// A type word stands before a string alone, and only a date or time shows its time zone. A literal
+// without any form is NULL.
 rendered render_const_generic(rendering &r, node_const_generic *node, void *) {
-    rendered zone;
-    bool chosen = false;
-    rendered result{true, true, 0};
-    const auto choose = [&](rendered candidate, rendering::place begin, int type) {
-        result.fail_with(candidate);
-        if (chosen)
-            r.drop_from(begin);
-        else if (candidate.text)
-            node->sql_type = type;
-        chosen = chosen || candidate.text;
-    };
-
-    const int type_of_string = node->type ? node->type : int{QUILLET_TYPE_VARCHAR};
-    auto begin = r.here();
-    if (node->const_string)
-        choose(render_typed_string(r, *node, zone), begin, type_of_string);
-    begin = r.here();
-    choose(r.child(node->const_boolean), begin, QUILLET_TYPE_BOOL);
-    begin = r.here();
-    choose(r.child(node->const_integer), begin, QUILLET_TYPE_INT8);
-    begin = r.here();
-    choose(r.child(node->const_floating), begin, QUILLET_TYPE_FLOAT8);
-    if (!chosen) {
+    const auto begin = r.here();
+    rendered value{true, false, 0};
+    const std::string_view word = quillet_type_to_string(node->type);
+    if (node->const_string && !word.empty()) {
+        r.out.append(word);
+        r.out.append(' ');
+    }
+    const std::size_t behind_word = r.out.size();
+    render_form(r, *node, node->const_string, node->type ? node->type : int{QUILLET_TYPE_VARCHAR},
+                value);
+    const bool is_string = value.text;
+    if (!is_string)
+        r.drop_from(begin);
+    render_form(r, *node, node->const_boolean, QUILLET_TYPE_BOOL, value);
+    render_form(r, *node, node->const_integer, QUILLET_TYPE_INT8, value);
+    render_form(r, *node, node->const_floating, QUILLET_TYPE_FLOAT8, value);
+    if (!value.text) {
         r.out.append("NULL");
         node->sql_type = QUILLET_TYPE_UNKNOWN;
     }
-    if (node->at_time_zone && !zone.record) {
-        begin = r.here();
-        zone = r.child(node->at_time_zone);
-        r.drop_from(begin);
-    }
-    result.fail_with(zone);
-    return result;
+
+    const auto behind_value = r.here();
+    const std::size_t value_begin = is_string ? behind_word : begin.size;
+    value.fail_with(r.spaced_child(value_begin, node->at_time_zone));
+    if (!is_string || !quillet_is_datetime(node->type))
+        r.drop_from(behind_value);
+    if (!word.empty() && is_string && r.out.size() == behind_word)
+        r.out.truncate(behind_word - 1); // the string was empty
+    return {true, true, value.status};
 }
 
 rendered render_at_time_zone(rendering &r, node_at_time_zone *node, void *) {
