@@ -1,6 +1,6 @@
 #include "quillet_tree_node.h"
 
-#include <new>
+#include <cstring>
 
 #include "quillet_memory.h"
 #include "quillet_tree_node_kinds.h"
@@ -50,7 +50,8 @@ void free_tree(node_kind kind, void *node) {
 // quillet_node_<kind>_create and quillet_node_<kind>_free for every kind.
 #define NODE(kind)                                                                                 \
     node_##kind *quillet_node_##kind##_create(void) {                                              \
-        return new (_quillet_memory_take(sizeof(node_##kind))) node_##kind{};                      \
+        void *memory = _quillet_memory_take(sizeof(node_##kind));                                  \
+        return static_cast<node_##kind *>(std::memset(memory, 0, sizeof(node_##kind)));            \
     }                                                                                              \
     void quillet_node_##kind##_free(node_##kind *node) {                                           \
         quillet::free_tree(quillet::kind_##kind, node);                                            \
