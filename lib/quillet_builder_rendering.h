@@ -219,10 +219,11 @@ public:
         return !exhausted_;
     }
 
-    // The dialect to which an operation in a slot belongs, NULL for a host's own.
+    // The dialect to which an operation in a slot belongs, NULL for a host's own and for an empty
+    // slot.
     template <class Operation>
     static const dialect *dialect_of(Operation builder::*slot, Operation found) {
-        const dialect *candidate = dialects;
+        const dialect *candidate = found ? dialects : nullptr;
         while (candidate && candidate->operations->*slot != found)
             candidate = candidate->next;
         return candidate;
