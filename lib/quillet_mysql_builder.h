@@ -11,7 +11,7 @@
 extern "C" {
 #endif
 
-extern quillet_builder_info quillet_mysql_builder_info;
+extern QUILLET_API quillet_builder_info quillet_mysql_builder_info;
 
 /* Returns the builder's record in the registry, a static one. */
 QUILLET_API quillet_builder_info *quillet_mysql_builder_get_info(void);

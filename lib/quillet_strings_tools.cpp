@@ -4,14 +4,12 @@
 #include <cstring>
 #include <memory>
 
+#include "quillet_text_buffer.h"
+
 namespace {
 
-struct freed {
-    void operator()(char *text) const { std::free(text); }
-};
-
 // Holds an argument that the operation consumes.
-using owned_text = std::unique_ptr<char, freed>;
+using owned_text = std::unique_ptr<char, quillet::freed>;
 
 } // namespace
 
@@ -75,7 +73,7 @@ char *quillet_sconcat_free_both(char *first, char *second) {
 char *quillet_extract_string(const char *string, int skeep_at_begin, int skeep_at_end) {
     const auto length = static_cast<long long>(string ? std::strlen(string) : 0);
     const long long kept = length - skeep_at_begin - skeep_at_end;
-    const std::size_t n = kept > 0 ? static_cast<std::size_t>(kept) : 0;
+    const std::size_t n = string && kept > 0 ? static_cast<std::size_t>(kept) : 0;
     char *extracted = static_cast<char *>(std::malloc(n + 1));
     if (n)
         std::memcpy(extracted, string + skeep_at_begin, n);

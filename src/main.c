@@ -12,8 +12,8 @@ enum { QUERY_SIZE = 4096, LINE_SIZE = 256 };
 
 static const char usage[] =
     "QUILLET - simple front-end for quillet\n"
-    "Translates SQL from the PostgreSQL dialect; see README.md for a tour.\n"
-    "Detailed rules and limits are documented beside it, in docs/.\n"
+    "Translates a SQL statement of the PostgreSQL dialect into text of another.\n"
+    "README.md shows how, docs/mysql.md says what MySQL output becomes.\n"
     "\n"
     "Usage:\n"
     "quillet [--postgresql|--mysql|--type_view] [<query>|-]\n"

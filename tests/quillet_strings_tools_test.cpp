@@ -135,11 +135,11 @@ struct extract_case {
 
 constexpr extract_case extracts[] = {
     // text, at_begin, at_end, expected
-    {"'abc'", 1, 1, "abc"}, {"''", 1, 1, ""},      {"x", 1, 1, ""},       {"", 1, 1, ""},
-    {"", 0, 0, ""},         {nullptr, 0, 0, ""},   {nullptr, 1, 1, ""},   {nullptr, 3, 0, ""},
-    {"abc", 0, 0, "abc"},   {"abc", 1, 0, "bc"},   {"abc", 0, 1, "ab"},   {"abc", 2, 1, ""},
-    {"abc", 1, 2, ""},      {"abc", 3, 0, ""},     {"abc", 0, 3, ""},     {"abc", 4, 0, ""},
-    {"abc", 0, 4, ""},      {"abc", 100, 100, ""}, {"abcdef", 2, 3, "c"},
+    {"'abc'", 1, 1, "abc"}, {"''", 1, 1, ""},     {"x", 1, 1, ""},       {"", 1, 1, ""},
+    {"", 0, 0, ""},         {nullptr, 0, 0, ""},  {nullptr, 1, 1, ""},   {nullptr, 3, 0, ""},
+    {nullptr, -1, 0, ""},   {"abc", 0, 0, "abc"}, {"abc", 1, 0, "bc"},   {"abc", 0, 1, "ab"},
+    {"abc", 2, 1, ""},      {"abc", 1, 2, ""},    {"abc", 3, 0, ""},     {"abc", 0, 3, ""},
+    {"abc", 4, 0, ""},      {"abc", 0, 4, ""},    {"abc", 100, 100, ""}, {"abcdef", 2, 3, "c"},
 };
 
 class Extract : public testing::TestWithParam<extract_case> {};
