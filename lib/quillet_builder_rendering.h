@@ -279,6 +279,10 @@ build_result *render_operator_alone(const operator_rule &rule, builder *self,
 rendered render_expression_framed(rendering &r, node_expression *node,
                                   const expression_frame *frame);
 
+// Renders what follows the expression of a select item: its alias, or the name and star of an item
+// whose expression gave no text.
+rendered complete_select_item(rendering &r, node_identifier *identifier, rendered expression);
+
 // Renders an operator application by a rule, whatever its slot holds.
 rendered render_by_rule(rendering &r, const operator_rule &rule, node_expression *node);
 

@@ -279,15 +279,18 @@ rendered render_select_list(rendering &r, node_select_list *node, void *data) {
                                                                                        data, comma);
 }
 
-rendered render_select_item(rendering &r, node_select_item *node, void *) {
-    const rendered expression = r.child(node->expression);
+rendered complete_select_item(rendering &r, node_identifier *identifier, rendered expression) {
     const rendered name =
-        expression.text ? r.prefixed_child(" AS ", node->identifier) : r.child(node->identifier);
+        expression.text ? r.prefixed_child(" AS ", identifier) : r.child(identifier);
     if (!expression.text)
         r.out.append(name.text ? ".*" : "*");
     rendered result{true, true, expression.status};
     result.fail_with(name);
     return result;
+}
+
+rendered render_select_item(rendering &r, node_select_item *node, void *) {
+    return complete_select_item(r, node->identifier, r.child(node->expression));
 }
 
 // Names and columns.

@@ -35,13 +35,7 @@ rendered render_select_item_mysql(rendering &r, node_select_item *node, void *) 
         r.out.append(", 'TRUE', 'FALSE')");
         expression.text = true;
     }
-    const rendered name =
-        expression.text ? r.prefixed_child(" AS ", node->identifier) : r.child(node->identifier);
-    if (!expression.text)
-        r.out.append(name.text ? ".*" : "*");
-    rendered result{true, true, expression.status};
-    result.fail_with(name);
-    return result;
+    return complete_select_item(r, node->identifier, expression);
 }
 
 rendered render_identifier_mysql(rendering &r, node_identifier *node, void *) {
