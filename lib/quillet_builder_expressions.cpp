@@ -155,7 +155,8 @@ rendered complete_by_choice(rendering &r, const operator_rule &rule, node_expres
             r.out.append(text.pieces[2].literal);
         return result;
     }
-    const std::size_t second_size = r.settle(before_second) + r.out.size() - before_second.size;
+    r.settle(before_second);
+    const std::size_t second_size = r.out.size() - before_second.size;
     r.settle(begin);
     const std::string operands(r.out.from(begin.size));
     r.drop_from(begin);

@@ -64,7 +64,7 @@ void rendering::drop_between(place begin, place end) {
 }
 
 // Moves the text from its end to where it belongs, so that each part is moved once.
-std::size_t rendering::settle(place begin) {
+void rendering::settle(place begin) {
     std::size_t added = 0;
     for (std::size_t i = begin.insertions; i < insertions_.size(); ++i)
         added += insertions_[i].text.size();
@@ -83,7 +83,6 @@ std::size_t rendering::settle(place begin) {
         }
     }
     insertions_.resize(begin.insertions);
-    return added;
 }
 
 build_result *finished(rendering &r, rendered result) {

@@ -181,8 +181,8 @@ public:
     // Fills a reserved place. The text must outlive the rendering.
     void insert(std::size_t index, std::string_view text) { insertions_[index].text = text; }
 
-    // Puts the insertions behind a place into the text. Returns how much longer the text got.
-    std::size_t settle(place begin);
+    // Puts the insertions behind a place into the text.
+    void settle(place begin);
 
     // Scratch for the walks down a chain, so that they need no stack of their own.
     struct link {
