@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "host_builder.h"
 #include "quillet.h"
 #include "support.h"
 
@@ -30,6 +31,9 @@ outcome translate(const std::string &statement, const char *builder) {
     return {code, output ? std::optional<std::string>(output) : std::nullopt};
 }
 
+// Operations of a host are called one inside the other: a deep statement would exhaust the stack.
+constexpr std::size_t hosted_size_maximum = 200;
+
 // A type whose printed name is none of its spellings does not come back.
 bool comes_back(const std::string &text) { return text.find("CAHR") == std::string::npos; }
 
@@ -37,6 +41,10 @@ void check(const std::string &statement, const char *builder, const outcome &fir
     require(first.code == 0 || first.code == -2 || first.code == -3, "an unknown code");
     require((first.code == 0) == first.text.has_value(), "a text must come with success alone");
     require(first == translate(statement, builder), "the second time differs");
+    if (statement.size() <= hosted_size_maximum) {
+        const quillet_tests::hosted host(quillet_get_builder_id(builder));
+        require(first == translate(statement, builder), "through a host's operations it differs");
+    }
     if (first.code != 0)
         require(*quillet_get_error_description() != '\0', "a failure without description");
 }

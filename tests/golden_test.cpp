@@ -19,6 +19,7 @@
 #include <string_view>
 #include <vector>
 
+#include "host_builder.h"
 #include "quillet_parser_tools.h"
 
 extern "C" {
@@ -158,6 +159,8 @@ struct translation {
     std::string outcome;
     std::string text;
     std::string printed;
+
+    bool operator==(const translation &) const = default;
 };
 
 void reset_library() {
@@ -233,6 +236,11 @@ private:
             return;
         }
         const translation actual = translate(tested.statement, builder);
+        {
+            const quillet_tests::hosted host(quillet_get_builder_id(builder.c_str()));
+            EXPECT_EQ(translate(tested.statement, builder), actual)
+                << "through a host's operations";
+        }
         const bool success = expected.outcome.empty();
         EXPECT_EQ(actual.outcome, expected.outcome);
         EXPECT_EQ(actual.printed, success ? tested.printed : expected.body);
