@@ -18,7 +18,7 @@
 namespace quillet {
 
 // release(value) frees a semantic value of any type.
-inline void release(char *text) { _quillet_memory_give(text); }
+inline void release(char *text) { _quillet_memory_give_text(text); }
 #define NODE(kind)                                                                                 \
     inline void release(node_##kind *node) { quillet_node_##kind##_free(node); }
 #include "quillet_nodes.def"

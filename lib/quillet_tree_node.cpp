@@ -1,6 +1,7 @@
 #include "quillet_tree_node.h"
 
 #include <cstring>
+#include <vector>
 
 #include "quillet_memory.h"
 #include "quillet_tree_node_kinds.h"
@@ -8,39 +9,52 @@
 namespace quillet {
 namespace {
 
-// Frees a tree without a stack. On the way down a node keeps, in the field that was followed, the
-// way back to its parent, and in sql_type its own kind and the field's index.
+struct owned_node {
+    void *node;
+    node_kind kind;
+};
+
+constexpr std::size_t children_of_a_node = 16; // at most
+
+#define NODE(kind) constexpr std::size_t children_of_##kind = 0
+#define CHILD(kind, type, field) +1
+#define END(kind) ;
+#include "quillet_nodes.def"
+
+// Frees a tree with a stack of its own. The last child comes first, so that the stack stays short
+// in lists and chains, which grow at their first field.
 void free_tree(node_kind kind, void *node) {
     if (!node)
         return;
-    void *parent = nullptr;
-    int next = 0;
+    std::vector<owned_node> stack(4 * children_of_a_node);
+    std::size_t height = 0;
+    owned_node next = {node, kind};
     for (;;) {
-        const node_field &field = fields_of[kind][next];
-        if (field.role == field_role::end) {
-            _quillet_memory_give(node);
-            if (!parent)
-                return;
-            node = parent;
-            const auto place = *static_cast<std::int32_t *>(node);
-            kind = static_cast<node_kind>(place & 0xff);
-            next = place >> 8;
-            parent = field_value<void *>(node, fields_of[kind][next++]);
-            continue;
+        if (stack.size() - height < children_of_a_node)
+            stack.resize(2 * stack.size());
+        owned_node *top = &stack[height];
+        switch (next.kind) {
+#define NODE(kind)                                                                                 \
+    case kind_##kind: {                                                                            \
+        static_assert(children_of_##kind <= children_of_a_node);                                   \
+        auto *own = static_cast<node_##kind *>(next.node);
+#define CHILD(kind, type, field)                                                                   \
+    if (own->field)                                                                                \
+        *top++ = {own->field, kind_##type};
+#define TEXT(kind, field)                                                                          \
+    if (own->field)                                                                                \
+        _quillet_memory_give_text(own->field);
+#define END(kind)                                                                                  \
+    _quillet_memory_give(own, sizeof *own);                                                        \
+    break;                                                                                         \
+    }
+#include "quillet_nodes.def"
+        case node_kind_count: break;
         }
-        if (field.role == field_role::text)
-            _quillet_memory_give(field_value<void *>(node, field));
-        void *child = field.role == field_role::child ? field_value<void *>(node, field) : nullptr;
-        if (!child) {
-            ++next;
-            continue;
-        }
-        set_field_value(node, field, parent);
-        *static_cast<std::int32_t *>(node) = kind | next << 8;
-        parent = node;
-        node = child;
-        kind = field.kind;
-        next = 0;
+        if (top == stack.data())
+            return;
+        next = *--top;
+        height = static_cast<std::size_t>(top - stack.data());
     }
 }
 
