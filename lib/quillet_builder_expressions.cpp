@@ -26,8 +26,7 @@ int operator_index(std::string_view name) {
     if (!name.starts_with(operator_prefix))
         return no_operator;
     name.remove_prefix(operator_prefix.size());
-    const int index = operator_names.find(name);
-    return index >= 0 && operator_names.name(index) == name ? index : no_operator;
+    return operator_names.find_in_lower_case(name);
 }
 
 namespace {
