@@ -21,8 +21,13 @@
 /* The stack's size if the system does not limit it, and the most that is relied upon. */
 #define QUILLET_STACK_SIZE_ASSUMED (8UL * 1024 * 1024)
 
-/* The blocks of memory, of some 150 bytes at most, that are kept for the next statement: enough for
-   the tree of a usual one. */
-#define QUILLET_KEPT_BLOCKS_MAXIMUM 4096
+/* The memory for the nodes of trees: the size of a chunk, which holds a usual statement's many
+   times over, and how many free chunks are kept for the next statement: enough for thousands of
+   columns. */
+#define QUILLET_NODE_CHUNK_SIZE (256UL * 1024)
+#define QUILLET_KEPT_CHUNKS_MAXIMUM 16
+
+/* The blocks for the texts in trees, of some 150 bytes at most, that are kept likewise. */
+#define QUILLET_KEPT_BLOCKS_MAXIMUM 65536
 
 #endif

@@ -1,10 +1,10 @@
 /*
- * Memory for the nodes of the tree and their texts, which come and go by the hundred with every
- * statement. Every block is one from malloc: who takes one out of a tree may free it, and what was
- * put into a tree may come from malloc. Internal.
+ * Memory for the texts of the tree, which come and go by the hundred with every statement. Every
+ * block is one from malloc: who takes a text out of a tree may free it, and what is put into a tree
+ * may come from malloc. Internal.
  */
-#ifndef QUILLET_MEMORY_H
-#define QUILLET_MEMORY_H
+#ifndef QUILLET_TEXT_MEMORY_H
+#define QUILLET_TEXT_MEMORY_H
 
 #include <stddef.h>
 #include <stdlib.h>
@@ -28,12 +28,8 @@ extern "C" {
 
 #ifdef QUILLET_PLAIN_MEMORY
 
-static inline void *_quillet_memory_take(size_t size) { return malloc(size); }
-static inline void _quillet_memory_give(void *block, size_t size) {
-    (void)size;
-    free(block);
-}
-static inline void _quillet_memory_give_text(char *text) { free(text); }
+static inline char *_quillet_text_take(size_t size) { return (char *)malloc(size); }
+static inline void _quillet_text_give(char *text) { free(text); }
 
 #else
 
@@ -55,32 +51,20 @@ static inline size_t _quillet_kept_list(size_t size) {
                : (size - quillet_kept_smallest + quillet_kept_step - 1) / quillet_kept_step;
 }
 
-/* Returns a block of at least size bytes: one that was given back, if there is one. */
-static inline void *_quillet_memory_take(size_t size) {
+/* Returns room for a text of size characters, its NUL included: a block that was given back, if
+   there is one. */
+static inline char *_quillet_text_take(size_t size) {
     const size_t list = _quillet_kept_list(size);
     if (list >= quillet_kept_lists || !_quillet_kept[list])
-        return malloc(size);
+        return (char *)malloc(size);
     quillet_kept_block *block = _quillet_kept[list];
     _quillet_kept[list] = block->next;
     --_quillet_kept_count;
-    return block;
+    return (char *)block;
 }
 
-/* Keeps a block of size bytes for the next one that asks for as many, or frees it. */
-static inline void _quillet_memory_give(void *block, size_t size) {
-    const size_t list = _quillet_kept_list(size);
-    if (list >= quillet_kept_lists || _quillet_kept_count >= QUILLET_KEPT_BLOCKS_MAXIMUM) {
-        free(block);
-        return;
-    }
-    quillet_kept_block *kept = (quillet_kept_block *)block;
-    kept->next = _quillet_kept[list];
-    _quillet_kept[list] = kept;
-    ++_quillet_kept_count;
-}
-
-/* Gives back a text, whatever the size of its block. NULL is ignored. */
-void _quillet_memory_give_text(char *text);
+/* Keeps the block of a text for the next one, or frees it. NULL is ignored. */
+void _quillet_text_give(char *text);
 
 #endif
 

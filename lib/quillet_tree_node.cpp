@@ -3,7 +3,8 @@
 #include <cstring>
 #include <vector>
 
-#include "quillet_memory.h"
+#include "quillet_node_memory.h"
+#include "quillet_text_memory.h"
 #include "quillet_tree_node_kinds.h"
 
 namespace quillet {
@@ -43,9 +44,9 @@ void free_tree(node_kind kind, void *node) {
         *top++ = {own->field, kind_##type};
 #define TEXT(kind, field)                                                                          \
     if (own->field)                                                                                \
-        _quillet_memory_give_text(own->field);
+        _quillet_text_give(own->field);
 #define END(kind)                                                                                  \
-    _quillet_memory_give(own, sizeof *own);                                                        \
+    give_node(own);                                                                                \
     break;                                                                                         \
     }
 #include "quillet_nodes.def"
@@ -64,7 +65,7 @@ void free_tree(node_kind kind, void *node) {
 // quillet_node_<kind>_create and quillet_node_<kind>_free for every kind.
 #define NODE(kind)                                                                                 \
     node_##kind *quillet_node_##kind##_create(void) {                                              \
-        void *memory = _quillet_memory_take(sizeof(node_##kind));                                  \
+        void *memory = quillet::take_node(sizeof(node_##kind));                                    \
         return static_cast<node_##kind *>(std::memset(memory, 0, sizeof(node_##kind)));            \
     }                                                                                              \
     void quillet_node_##kind##_free(node_##kind *node) {                                           \
