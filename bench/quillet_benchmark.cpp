@@ -14,9 +14,9 @@
 #include "quillet.h"
 #include "quillet_builder.h"
 #include "quillet_globals.h"
-#include "quillet_text_memory.h"
 #include "quillet_parser.h"
 #include "quillet_parser_tools.h"
+#include "quillet_tree_memory.h"
 #include "quillet_tree_node.h"
 
 #include "quillet_bison_parser.h"
@@ -63,7 +63,7 @@ void scan(const std::string &statement) {
         case TOKEN_STRING:
         case TOKEN_INTEGER:
         case TOKEN_FLOAT:
-        case TOKEN_CURRENT_DATETIME: _quillet_text_give(yy_quillet_lval.v_string); break;
+        case TOKEN_CURRENT_DATETIME: _quillet_tree_give(yy_quillet_lval.v_string); break;
         default: break;
         }
     _quillet_parse_data_free(quillet_query);

@@ -1,8 +1,10 @@
 #include "quillet.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <iterator>
 #include <memory>
+#include <optional>
 
 #include "quillet_builder.h"
 #include "quillet_globals.h"
@@ -11,6 +13,7 @@
 #include "quillet_parser.h"
 #include "quillet_postgresql_builder.h"
 #include "quillet_text_buffer.h"
+#include "quillet_tree_memory.h"
 #include "quillet_tree_view_builder.h"
 #include "quillet_type_view_builder.h"
 
@@ -31,6 +34,13 @@ bool is_builder(int id) { return id >= 0 && id < builder_count; }
 int fail(int code) {
     error_code = code;
     return code;
+}
+
+// Whether a builder comes from this library as it is, so that no host sees the tree.
+bool is_our_own(const quillet_builder_info &info) {
+    const auto ours = {quillet_postgresql_builder_create, quillet_mysql_builder_create,
+                       quillet_tree_view_builder_create, quillet_type_view_builder_create};
+    return std::ranges::find(ours, info.constructor) != ours.end();
 }
 
 // Renders the tree in root with a fresh builder and frees both.
@@ -74,12 +84,16 @@ int quillet_translate_query(const char *input, char **output, int builder_id) {
     last_builder_id = builder_id;
     if (!is_builder(builder_id))
         return fail(QUILLET_NO_SUCH_BUILDER);
+    const quillet_builder_info &info = *quillet_builders[builder_id];
+    std::optional<tree_arena> arena;
+    if (is_our_own(info))
+        arena.emplace();
     if (quillet_parse(input) == QUILLET_PARSE_SYNTAX_ERROR)
         return fail(QUILLET_INVALID_QUERY);
     if (!root)
         return fail(QUILLET_CAN_NOT_TRANSLATE); // nested too deeply for the parser
 
-    const std::unique_ptr<build_result, freed> result(render_root(*quillet_builders[builder_id]));
+    const std::unique_ptr<build_result, freed> result(render_root(info));
     if (!result)
         return fail(QUILLET_CAN_NOT_TRANSLATE);
     std::unique_ptr<char, freed> text(result->query);

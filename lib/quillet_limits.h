@@ -21,13 +21,11 @@
 /* The stack's size if the system does not limit it, and the most that is relied upon. */
 #define QUILLET_STACK_SIZE_ASSUMED (8UL * 1024 * 1024)
 
-/* The memory for the nodes of trees: the size of a chunk, which holds a usual statement's many
-   times over, and how many free chunks are kept for the next statement: enough for thousands of
-   columns. */
-#define QUILLET_NODE_CHUNK_SIZE (256UL * 1024)
-#define QUILLET_KEPT_CHUNKS_MAXIMUM 16
-
-/* The blocks for the texts in trees, of some 150 bytes at most, that are kept likewise. */
-#define QUILLET_KEPT_BLOCKS_MAXIMUM 65536
+/* The arena for a translation's tree: the size of its first chunk, which holds a usual statement;
+   how often the chunks can double, which is beyond any machine; and how many are kept for the next
+   statement, 4 MiB in all, enough for thousands of columns. */
+#define QUILLET_ARENA_CHUNK_SIZE (64UL * 1024)
+#define QUILLET_ARENA_CHUNKS_MAXIMUM 32
+#define QUILLET_ARENA_KEPT_CHUNKS 6
 
 #endif

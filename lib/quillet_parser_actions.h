@@ -10,16 +10,15 @@
 #include <string_view>
 
 #include "quillet_globals.h"
-#include "quillet_node_memory.h"
 #include "quillet_strings_tools.h"
-#include "quillet_text_memory.h"
+#include "quillet_tree_memory.h"
 #include "quillet_tree_node.h"
 #include "quillet_types.h"
 
 namespace quillet {
 
 // release(value) frees a semantic value of any type.
-inline void release(char *text) { _quillet_text_give(text); }
+inline void release(char *text) { _quillet_tree_give(text); }
 #define NODE(kind)                                                                                 \
     inline void release(node_##kind *node) { quillet_node_##kind##_free(node); }
 #include "quillet_nodes.def"
@@ -27,14 +26,14 @@ inline void release(char *text) { _quillet_text_give(text); }
 // make(node_<kind>{...}) returns a new node with these fields.
 #define NODE(kind)                                                                                 \
     inline node_##kind *make(const node_##kind &fields) {                                          \
-        return new (take_node(sizeof(node_##kind))) node_##kind(fields);                           \
+        return new (_quillet_tree_take(sizeof(node_##kind))) node_##kind(fields);                  \
     }
 #include "quillet_nodes.def"
 
 inline node_identifier *name(char *text) { return make(node_identifier{.name = text}); }
 
 inline char *text_copy(std::string_view text) {
-    auto *copy = _quillet_text_take(text.size() + 1);
+    auto *copy = static_cast<char *>(_quillet_tree_take(text.size() + 1));
     std::memcpy(copy, text.data(), text.size());
     copy[text.size()] = '\0';
     return copy;

@@ -3,8 +3,7 @@
 #include <cstring>
 #include <vector>
 
-#include "quillet_node_memory.h"
-#include "quillet_text_memory.h"
+#include "quillet_tree_memory.h"
 #include "quillet_tree_node_kinds.h"
 
 namespace quillet {
@@ -25,7 +24,7 @@ constexpr std::size_t children_of_a_node = 16; // at most
 // Frees a tree with a stack of its own. The last child comes first, so that the stack stays short
 // in lists and chains, which grow at their first field.
 void free_tree(node_kind kind, void *node) {
-    if (!node)
+    if (!node || _quillet_has_arena)
         return;
     std::vector<owned_node> stack(4 * children_of_a_node);
     std::size_t height = 0;
@@ -42,11 +41,9 @@ void free_tree(node_kind kind, void *node) {
 #define CHILD(kind, type, field)                                                                   \
     if (own->field)                                                                                \
         *top++ = {own->field, kind_##type};
-#define TEXT(kind, field)                                                                          \
-    if (own->field)                                                                                \
-        _quillet_text_give(own->field);
+#define TEXT(kind, field) _quillet_tree_give(own->field);
 #define END(kind)                                                                                  \
-    give_node(own);                                                                                \
+    _quillet_tree_give(own);                                                                       \
     break;                                                                                         \
     }
 #include "quillet_nodes.def"
@@ -65,7 +62,7 @@ void free_tree(node_kind kind, void *node) {
 // quillet_node_<kind>_create and quillet_node_<kind>_free for every kind.
 #define NODE(kind)                                                                                 \
     node_##kind *quillet_node_##kind##_create(void) {                                              \
-        void *memory = quillet::take_node(sizeof(node_##kind));                                    \
+        void *memory = _quillet_tree_take(sizeof(node_##kind));                                    \
         return static_cast<node_##kind *>(std::memset(memory, 0, sizeof(node_##kind)));            \
     }                                                                                              \
     void quillet_node_##kind##_free(node_##kind *node) {                                           \

@@ -1,0 +1,59 @@
+/*
+ * Memory for the nodes of trees and for their texts: blocks from malloc, each of which is freed on
+ * its own, or, for the tree of a translation, parts of an arena that go all at once. Internal.
+ */
+#ifndef QUILLET_TREE_MEMORY_H
+#define QUILLET_TREE_MEMORY_H
+
+#include <stddef.h>
+#include <stdlib.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+extern int _quillet_has_arena; /* whether there is an arena */
+
+/* The free part of the arena's chunk in use; empty while there is no arena. */
+extern char *_quillet_arena_next;
+extern char *_quillet_arena_end;
+
+/* Returns room from a new chunk of the arena, or from malloc while there is no arena. */
+void *_quillet_tree_take_more(size_t size);
+
+/* Returns room for a node or a text. */
+static inline void *_quillet_tree_take(size_t size) {
+    const size_t step = sizeof(void *);
+    const size_t needed = (size + step - 1) / step * step;
+    if ((size_t)(_quillet_arena_end - _quillet_arena_next) < needed)
+        return _quillet_tree_take_more(needed);
+    void *room = _quillet_arena_next;
+    _quillet_arena_next += needed;
+    return room;
+}
+
+/* Frees a node's or a text's room; in an arena it goes with the arena. NULL is ignored. */
+static inline void _quillet_tree_give(void *room) {
+    if (!_quillet_has_arena)
+        free(room);
+}
+
+#ifdef __cplusplus
+}
+
+namespace quillet {
+
+// While one lives, nodes and texts are parts of an arena, which goes with it: nobody else may take
+// them over, and to free one of them does nothing. One at a time.
+class tree_arena {
+public:
+    tree_arena();
+    ~tree_arena();
+    tree_arena(const tree_arena &) = delete;
+    tree_arena &operator=(const tree_arena &) = delete;
+};
+
+} // namespace quillet
+#endif
+
+#endif
