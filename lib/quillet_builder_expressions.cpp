@@ -338,7 +338,7 @@ rendered end_expression(rendering &r, const step &begun, rendered first) {
 rendered close_frame(rendering &r, const step &begun, rendered result) {
     if (!begun.frame || !result.record)
         return result;
-    r.insert(begun.insertion, begun.frame->begin(*begun.node));
+    r.insert(begun.begin.insertions - 1, begun.frame->begin(*begun.node));
     r.out.append(begun.frame->end);
     result.text = true;
     return result;
@@ -375,7 +375,7 @@ rendered render_expression_framed(rendering &r, node_expression *node,
     for (;;) {
         step next{.node = node, .frame = frame};
         if (frame)
-            next.insertion = r.reserve_insertion();
+            r.reserve_insertion();
         node = begin_expression(r, next, result);
         if (!node) {
             result = close_frame(r, next, result);

@@ -9,6 +9,9 @@
 namespace quillet {
 
 const void *rendering::stack_floor = nullptr;
+std::vector<rendering::link> rendering::kept_links;
+std::vector<rendering::expression_step> rendering::kept_steps;
+std::vector<rendering::insertion> rendering::kept_insertions;
 
 namespace {
 
@@ -27,13 +30,28 @@ const void *floor_below(const void *frame) {
 } // namespace
 
 rendering::rendering(builder *renderer) : self(renderer), outermost_(!stack_floor) {
-    if (outermost_)
-        stack_floor = floor_below(__builtin_frame_address(0));
+    if (!outermost_)
+        return;
+    stack_floor = floor_below(__builtin_frame_address(0));
+    exchange_scratch();
 }
 
 rendering::~rendering() {
-    if (outermost_)
-        stack_floor = nullptr;
+    if (!outermost_)
+        return;
+    stack_floor = nullptr;
+    links.clear();
+    insertions_.clear();
+    if (steps.capacity() <= QUILLET_KEPT_STEPS_MAXIMUM &&
+        insertions_.capacity() <= QUILLET_KEPT_STEPS_MAXIMUM &&
+        links.capacity() <= QUILLET_KEPT_STEPS_MAXIMUM)
+        exchange_scratch();
+}
+
+void rendering::exchange_scratch() {
+    links.swap(kept_links);
+    steps.swap(kept_steps);
+    insertions_.swap(kept_insertions);
 }
 
 void rendering::know(dialect &own) {

@@ -197,8 +197,7 @@ public:
         node_expression *node = nullptr;
         const operator_rule *rule = nullptr;
         const expression_frame *frame = nullptr;
-        std::size_t insertion = 0; // the frame's beginning
-        place begin{};             // of the operation or cast, its frame excluded
+        place begin{}; // behind the frame's beginning, which is an insertion
         const cast_rule *cast = nullptr;
     };
 
@@ -245,6 +244,12 @@ private:
     static const dialect *dialects; // the default one is the last
 
     std::vector<insertion> insertions_; // in the order of their places
+
+    // The memory of the scratch, which the outermost rendering takes over from the one before.
+    void exchange_scratch();
+    static std::vector<link> kept_links;
+    static std::vector<expression_step> kept_steps;
+    static std::vector<insertion> kept_insertions;
 };
 
 struct cast_rule {

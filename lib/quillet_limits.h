@@ -28,4 +28,8 @@
 #define QUILLET_ARENA_CHUNKS_MAXIMUM 32
 #define QUILLET_ARENA_KEPT_CHUNKS 6
 
+/* The steps down a chain or list for which a rendering keeps its memory for the next one, some
+   hundred bytes each. */
+#define QUILLET_KEPT_STEPS_MAXIMUM 65536
+
 #endif

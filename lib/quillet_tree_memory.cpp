@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include <sys/mman.h>
+
 #include "quillet_limits.h"
 
 #if defined(__has_feature)
@@ -26,11 +28,23 @@ std::size_t used_chunks = 0;
 
 constexpr std::size_t size_of_chunk(std::size_t index) { return QUILLET_ARENA_CHUNK_SIZE << index; }
 
+// A large chunk asks for large pages, which spare it most of the page faults.
+char *new_chunk(std::size_t size) {
+    constexpr std::size_t large_page = 2UL * 1024 * 1024;
+    if (size < large_page)
+        return static_cast<char *>(std::malloc(size));
+    void *chunk = std::aligned_alloc(large_page, size);
+#ifdef MADV_HUGEPAGE
+    madvise(chunk, size, MADV_HUGEPAGE);
+#endif
+    return static_cast<char *>(chunk);
+}
+
 void begin_chunk() {
     char *&chunk = chunks[used_chunks];
     const std::size_t size = size_of_chunk(used_chunks++);
     if (!chunk)
-        chunk = static_cast<char *>(std::malloc(size));
+        chunk = new_chunk(size);
     _quillet_arena_next = chunk;
     _quillet_arena_end = chunk + size;
 }
