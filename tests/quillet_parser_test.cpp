@@ -837,6 +837,28 @@ TEST(ParserState, AnErrorAtTheEndLeavesNothing) {
     EXPECT_EQ(shown_tree(parse_on("DELETE FROM t")), "main{delete_=delete{table{identifier=t}}}");
 }
 
+// A token that could have gone on has met the end of its query: the next query begins with that.
+TEST(ParserState, AnErrorAtATokenThatCouldGoOnLeavesTheEnd) {
+    for (const char *token : {"from", "a", "a$", "1",   "1.",   "1.5",   "1e5", "1.5e-5", ".5",
+                              ".5e5", "!", "!~", "!~~", "~",    "~~",    "|",   "||",     "<",
+                              ">",    "-", "/",  ".",   "'\\'", "'a\\'", " a",  "\n1"}) {
+        EXPECT_EQ(parse(token).result, 1) << token;
+        EXPECT_EQ(parse_on("select 1").result, 1) << token;
+        EXPECT_EQ(parse_on("select 1").result, 0) << token;
+    }
+}
+
+TEST(ParserState, AnErrorAtATokenThatIsCompleteLeavesNothing) {
+    for (const char *token : {"#",       "@",     "&",  "*",  "(",        ")",    ",",
+                              "^",       "%",     "+",  "=",  ";",        "!~~*", "!~*",
+                              "~*",      "~~*",   "<=", ">=", "<>",       "!=",   "|/",
+                              "||/",     "!!",    "<<", ">>", "::",       "'a'",  "''",
+                              "'a\\'b'", "\"a\"", "* ", "a ", "( -- a\n", " ("}) {
+        EXPECT_EQ(parse(token).result, 1) << token;
+        EXPECT_EQ(parse_on("select 1").result, 0) << token;
+    }
+}
+
 TEST(ParserState, AnUnfinishedCommentGoesOnInTheNextQuery) {
     EXPECT_EQ(parse("DELETE FROM t /* a /* b").result, 0);
     EXPECT_EQ(shown_tree(parse_on("DELETE FROM t")), "Error: syntax error\n");
