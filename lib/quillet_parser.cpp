@@ -26,7 +26,7 @@ int quillet_parse(const char *query) {
     quillet_query = nullptr;
     // A statement may be complete, and in root, before what follows it turns out to be wrong.
     if (result != QUILLET_PARSE_ACCEPTED) {
-        _quillet_scanner_forget_end();
+        _quillet_scanner_forget_look();
         quillet_node_main_free(root);
         root = nullptr;
     }

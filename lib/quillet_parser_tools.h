@@ -24,9 +24,9 @@ void _quillet_parse_data_free(parse_data *data);
    returns their count, 0 at the end of the text. */
 int _quillet_input_from_string(parse_data *data, char *buffer, int max_size);
 
-/* Called when a parse ends at a token: lets the scanner of statements forget the end of input that
-   it has seen behind the token, unless the token could have gone on there. */
-void _quillet_scanner_forget_end(void);
+/* To be called when a parse has ended at a token. If the scanner of statements has read on only to
+   look behind that token, and the token was complete in itself, takes back what it has read. */
+void _quillet_scanner_forget_look(void);
 
 extern parse_data *quillet_query; /* the query being parsed, during quillet_parse alone */
 extern int quillet_comment_count; /* how deep the scanner is in block comments */

@@ -859,6 +859,22 @@ TEST(ParserState, AnErrorAtATokenThatIsCompleteLeavesNothing) {
     }
 }
 
+// An error in the remainder of an earlier query, before the next one has been read: that one is
+// lost.
+TEST(ParserState, AnErrorAtTheEndOfARemainderLosesTheQuery) {
+    EXPECT_EQ(parse("SELECT 1 ) ,").result, 1);
+    EXPECT_EQ(parse_on("DELETE FROM t").result, 1);
+    EXPECT_EQ(shown_tree(parse_on("DELETE FROM u")), "main{delete_=delete{table{identifier=u}}}");
+
+    // "1" is followed by no exponent, which only the comment behind it shows.
+    EXPECT_EQ(parse(")1e+").result, 1);
+    EXPECT_EQ(parse_on("/*").result, 1);
+    EXPECT_EQ(parse_on("").result, 1);
+    EXPECT_EQ(parse_on("").result, 1);
+    EXPECT_EQ(shown_tree(parse_on("*/ DELETE FROM t")),
+              "main{delete_=delete{table{identifier=t}}}");
+}
+
 TEST(ParserState, AnUnfinishedCommentGoesOnInTheNextQuery) {
     EXPECT_EQ(parse("DELETE FROM t /* a /* b").result, 0);
     EXPECT_EQ(shown_tree(parse_on("DELETE FROM t")), "Error: syntax error\n");
