@@ -1,0 +1,110 @@
+#include "contender.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillet_bench {
+
+namespace {
+
+enum status { done = 0, refused = 1, misused = 2 };
+
+using clock = std::chrono::steady_clock;
+using statement_list = std::vector<std::string>;
+
+double seconds_since(clock::time_point start) {
+    return std::chrono::duration<double>(clock::now() - start).count();
+}
+
+statement_list read_statements(const char *path) {
+    std::ifstream input(path, std::ios::binary);
+    statement_list statements;
+    for (std::string statement; std::getline(input, statement, '\0');)
+        statements.push_back(statement);
+    return statements;
+}
+
+// A library may report an error on standard output: the answers alone go there.
+std::FILE *take_standard_output() {
+    std::FILE *answers = fdopen(dup(STDOUT_FILENO), "w");
+    if (!answers || !std::freopen("/dev/null", "w", stdout))
+        std::abort();
+    return answers;
+}
+
+// The process's own: ru_maxrss knows the size of the process that started it too.
+long peak_memory() {
+    std::ifstream input("/proc/self/status");
+    for (std::string line; std::getline(input, line);)
+        if (line.starts_with("VmHWM:"))
+            return std::atol(line.c_str() + line.find(':') + 1);
+    return 0;
+}
+
+bool translate_all(const statement_list &statements, translation translate) {
+    return std::ranges::all_of(
+        statements, [=](const std::string &statement) { return translate(statement.c_str()); });
+}
+
+status accepts(std::FILE *answers, const statement_list &statements, translation translate) {
+    for (const std::string &statement : statements)
+        std::fprintf(answers, "%d\n", translate(statement.c_str()));
+    return done;
+}
+
+status times(std::FILE *answers, const statement_list &statements, translation translate,
+             double seconds) {
+    if (!translate_all(statements, translate)) // the first time is another matter
+        return refused;
+    const auto start = clock::now();
+    double count = 0;
+    double elapsed = 0;
+    do {
+        translate_all(statements, translate);
+        count += static_cast<double>(statements.size());
+        elapsed = seconds_since(start);
+    } while (elapsed < seconds);
+    std::fprintf(answers, "%.4f\n", elapsed * 1e6 / count);
+    return done;
+}
+
+status once(std::FILE *answers, const statement_list &statements, translation translate) {
+    const auto start = clock::now();
+    const bool translated = translate_all(statements, translate);
+    const double elapsed = seconds_since(start);
+    if (!translated)
+        return refused;
+    std::fprintf(answers, "%.4f %ld\n", elapsed * 1e6, peak_memory());
+    return done;
+}
+
+} // namespace
+
+int run_contender(int argc, char **argv, translation translate) {
+    const std::string_view command = argc > 1 ? argv[1] : "";
+    if (argc != (command == "times" ? 4 : 3))
+        return misused;
+    const statement_list statements = read_statements(argv[2]);
+    if (statements.empty())
+        return misused;
+    std::FILE *answers = take_standard_output();
+    status result = misused;
+    if (command == "accepts")
+        result = accepts(answers, statements, translate);
+    else if (command == "times")
+        result = times(answers, statements, translate, std::atof(argv[3]));
+    else if (command == "once")
+        result = once(answers, statements, translate);
+    std::fclose(answers);
+    return result;
+}
+
+} // namespace quillet_bench
