@@ -33,7 +33,7 @@ def section():
         ("date", datetime.date.today()),
         ("processor", f"{processor}, {os.cpu_count()} cores"),
         ("load when the run began", f"{os.getloadavg()[0]:.1f}"),
-        ("system", f"{system}, Linux {os.uname().release}"),
+        ("system", f"{system}, Linux {'.'.join(os.uname().release.split('.')[:2])}"),
         ("compiler", f"{compiler}, `{flags}`"),
         ("Quillet", cached("CMAKE_PROJECT_VERSION")),
         ("libpg_query", debian("libpg-query-dev")),
