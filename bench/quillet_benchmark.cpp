@@ -23,12 +23,13 @@
 
 extern "C" {
 
-int yy_quillet_lex(void);
 int yy_quillet_lex_destroy(void);
 
-// Every allocation of the program is counted.
+// Every allocation of the program is counted on its way to glibc.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 void *__libc_malloc(std::size_t size);
 void *__libc_realloc(void *block, std::size_t size);
+// NOLINTEND(bugprone-reserved-identifier)
 }
 
 namespace {
@@ -42,9 +43,9 @@ void *malloc(std::size_t size) {
     return __libc_malloc(size);
 }
 
-void *realloc(void *block, std::size_t size) {
+void *realloc(void *ptr, std::size_t size) {
     ++allocations;
-    return __libc_realloc(block, size);
+    return __libc_realloc(ptr, size);
 }
 
 namespace {
@@ -126,7 +127,7 @@ void measure_rendering(benchmark::State &state, const std::vector<std::string> &
         quillet_node_main_free(tree);
 }
 
-template <class Shape> void register_growth(const Shape &grown, std::vector<int> sizes) {
+template <class Shape> void register_growth(const Shape &grown, const std::vector<int> &sizes) {
     for (const char *builder : {"postgresql", "mysql"})
         for (const int size : sizes) {
             const std::vector<std::string> statement = {statement_of(grown, size)};
