@@ -21,12 +21,24 @@
 /* The stack's size if the system does not limit it, and the most that is relied upon. */
 #define QUILLET_STACK_SIZE_ASSUMED (8UL * 1024 * 1024)
 
-/* The arena for a translation's tree: the size of its first chunk, which holds a usual statement;
-   how often the chunks can double, which is beyond any machine; and how many are kept for the next
-   statement, 4 MiB in all, enough for thousands of columns. */
+/* The size of a query, which the scanner counts in an int and holds several times over. */
+#define QUILLET_QUERY_SIZE_MAXIMUM (256UL * 1024 * 1024)
+
+/* The size of a translation's tree, which takes up to 200 times the memory of the statement:
+   without a limit, one of some megabytes could take all there is. Millions of columns fit in. */
+#define QUILLET_TREE_SIZE_MAXIMUM (2048UL * 1024 * 1024)
+
+/* The arena for that tree: the size of its first chunk, which holds a usual statement; the size up
+   to which the chunks double; how many there can be; and how many are kept for the next statement,
+   4 MiB in all, enough for thousands of columns. */
 #define QUILLET_ARENA_CHUNK_SIZE (64UL * 1024)
-#define QUILLET_ARENA_CHUNKS_MAXIMUM 32
+#define QUILLET_ARENA_CHUNK_SIZE_MAXIMUM (64UL * 1024 * 1024)
+#define QUILLET_ARENA_CHUNKS_MAXIMUM 64
 #define QUILLET_ARENA_KEPT_CHUNKS 6
+
+/* The size from which on a token that is not yet at its end makes the scanner read on by as much
+   again, as reading on has a cost that grows with what there is of the token. */
+#define QUILLET_LONG_TOKEN (64L * 1024)
 
 /* The steps down a chain or list for which a rendering keeps its memory for the next one, some
    hundred bytes each. */

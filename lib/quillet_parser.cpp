@@ -4,15 +4,19 @@
 #include <cstring>
 
 #include "quillet_globals.h"
+#include "quillet_limits.h"
 #include "quillet_parser_tools.h"
+#include "quillet_tree_memory.h"
 
 extern "C" int yy_quillet_parse(void);
 
 node_main *root = nullptr;
 
 // Reports a syntax error or an overflow of the parser's stacks, for which bison has words of its
-// own.
+// own. The end that the scanner puts to a tree that is too large is no error of the statement.
 extern "C" int yy_quillet_error(const char *message) {
+    if (_quillet_tree_is_too_large())
+        return 0;
     const bool overflow = std::strcmp(message, "memory exhausted") == 0;
     std::printf("Error: %s\n", overflow ? "parser stack overflow" : message);
     return 0;
@@ -20,10 +24,14 @@ extern "C" int yy_quillet_error(const char *message) {
 
 int quillet_parse(const char *query) {
     root = nullptr;
+    if (std::strlen(query) > QUILLET_QUERY_SIZE_MAXIMUM)
+        return QUILLET_PARSE_STACK_OVERFLOW;
     quillet_query = _quillet_parse_data_create(query);
-    const int result = yy_quillet_parse();
+    int result = yy_quillet_parse();
     _quillet_parse_data_free(quillet_query);
     quillet_query = nullptr;
+    if (_quillet_tree_is_too_large())
+        result = QUILLET_PARSE_STACK_OVERFLOW;
     // A statement may be complete, and in root, before what follows it turns out to be wrong.
     if (result != QUILLET_PARSE_ACCEPTED) {
         _quillet_scanner_forget_look();

@@ -1,5 +1,6 @@
 #include "quillet_tree_memory.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 #include <sys/mman.h>
@@ -22,31 +23,52 @@ char *_quillet_arena_end = nullptr;
 
 namespace {
 
-// Chunk by chunk the arena doubles. The smaller ones are kept for the next statement.
-char *chunks[QUILLET_ARENA_CHUNKS_MAXIMUM];
+// Chunk by chunk the arena doubles. The first chunks are kept for the next statement.
+struct chunk {
+    char *begin = nullptr;
+    std::size_t size = 0;
+};
+
+chunk chunks[QUILLET_ARENA_CHUNKS_MAXIMUM];
 std::size_t used_chunks = 0;
+std::size_t used_size = 0;
 
-constexpr std::size_t size_of_chunk(std::size_t index) { return QUILLET_ARENA_CHUNK_SIZE << index; }
-
-// A large chunk asks for large pages, which spare it most of the page faults.
-char *new_chunk(std::size_t size) {
-    constexpr std::size_t large_page = 2UL * 1024 * 1024;
-    if (size < large_page)
-        return static_cast<char *>(std::malloc(size));
-    void *chunk = std::aligned_alloc(large_page, size);
-#ifdef MADV_HUGEPAGE
-    madvise(chunk, size, MADV_HUGEPAGE);
-#endif
-    return static_cast<char *>(chunk);
+std::size_t usual_size(std::size_t index) {
+    std::size_t size = QUILLET_ARENA_CHUNK_SIZE;
+    while (index-- > 0 && size < QUILLET_ARENA_CHUNK_SIZE_MAXIMUM)
+        size *= 2;
+    return size;
 }
 
-void begin_chunk() {
-    char *&chunk = chunks[used_chunks];
-    const std::size_t size = size_of_chunk(used_chunks++);
-    if (!chunk)
-        chunk = new_chunk(size);
-    _quillet_arena_next = chunk;
-    _quillet_arena_end = chunk + size;
+void free_chunk(chunk &freed) {
+    std::free(freed.begin);
+    freed = {};
+}
+
+// A large chunk asks for large pages, which spare it most of the page faults.
+chunk new_chunk(std::size_t size) {
+    constexpr std::size_t large_page = 2UL * 1024 * 1024;
+    if (size < large_page)
+        return {static_cast<char *>(std::malloc(size)), size};
+    size = (size + large_page - 1) / large_page * large_page;
+    void *begin = std::aligned_alloc(large_page, size);
+#ifdef MADV_HUGEPAGE
+    madvise(begin, size, MADV_HUGEPAGE);
+#endif
+    return {static_cast<char *>(begin), size};
+}
+
+// Begins the next chunk, which has room for at least so much.
+void begin_chunk(std::size_t room) {
+    chunk &next = chunks[used_chunks];
+    if (next.size < room) {
+        free_chunk(next);
+        next = new_chunk(std::max(room, usual_size(used_chunks)));
+    }
+    ++used_chunks;
+    used_size += next.size;
+    _quillet_arena_next = next.begin;
+    _quillet_arena_end = next.begin + next.size;
 }
 
 } // namespace
@@ -54,29 +76,28 @@ void begin_chunk() {
 void *_quillet_tree_take_more(size_t size) {
     if (!_quillet_has_arena)
         return std::malloc(size);
-    while (size_of_chunk(used_chunks) < size)
-        ++used_chunks;
-    begin_chunk();
+    begin_chunk(size);
     return _quillet_tree_take(size);
 }
+
+int _quillet_tree_is_too_large(void) { return used_size > QUILLET_TREE_SIZE_MAXIMUM; }
 
 namespace quillet {
 
 tree_arena::tree_arena() {
 #ifndef QUILLET_WITHOUT_ARENA
     _quillet_has_arena = 1;
-    used_chunks = 0;
-    begin_chunk();
+    begin_chunk(1);
 #endif
 }
 
 tree_arena::~tree_arena() {
     _quillet_has_arena = 0;
     _quillet_arena_next = _quillet_arena_end = nullptr;
-    for (std::size_t i = QUILLET_ARENA_KEPT_CHUNKS; i < used_chunks; ++i) {
-        std::free(chunks[i]);
-        chunks[i] = nullptr;
-    }
+    for (std::size_t i = 0; i < used_chunks; ++i)
+        if (i >= QUILLET_ARENA_KEPT_CHUNKS || chunks[i].size > usual_size(i))
+            free_chunk(chunks[i]);
+    used_chunks = used_size = 0;
 }
 
 } // namespace quillet

@@ -21,6 +21,9 @@ extern char *_quillet_arena_end;
 /* Returns room from a new chunk of the arena, or from malloc while there is no arena. */
 void *_quillet_tree_take_more(size_t size);
 
+/* Whether the arena holds more than a tree may take. Nothing more is to be put into it then. */
+int _quillet_tree_is_too_large(void);
+
 /* Returns room for a node or a text. */
 static inline void *_quillet_tree_take(size_t size) {
     const size_t step = sizeof(void *);

@@ -163,6 +163,40 @@ TEST(Size, OfAMillion) {
     expect_rendering(same_everywhere[9], mysql, 10 * members);
 }
 
+// Tokens that the scanner's buffer must grow for, and what it skips.
+TEST(Size, OfLongTokens) {
+    const std::string letters = repeated("a", 100 * members);
+    const std::string statements[][2] = {
+        {"select '" + letters + "'", "SELECT '" + letters + "'"},
+        {"select '" + letters + "\\'' from t", "SELECT '" + letters + "\\'' FROM t"},
+        {"select \"" + letters + "\".b", "SELECT \"" + letters + "\".b"},
+        {"select " + letters + "+1", "SELECT " + letters + " + 1"},
+        {"select 1" + repeated("0", 100 * members) + ", 2",
+         "SELECT 1" + repeated("0", 100 * members) + ", 2"},
+        {"select" + repeated(" ", 100 * members) + "1", "SELECT 1"},
+        {"select /*" + letters + "*/ 1 --" + letters, "SELECT 1"},
+    };
+    for (const auto &[query, rendered] : statements) {
+        const std::clock_t begin = std::clock();
+        EXPECT_TRUE(translate(query, postgresql).text == rendered) << query.substr(0, 20);
+        EXPECT_LT(std::clock() - begin, 10 * CLOCKS_PER_SEC) << query.substr(0, 20);
+    }
+}
+
+TEST(Size, BeyondTheLimitOfQueries) {
+    EXPECT_EQ(translate("select 1" + repeated(" ", 256 * 1024 * 1024), postgresql).code, -3);
+    EXPECT_EQ(translate("select 1", postgresql).text, "SELECT 1");
+}
+
+#if !defined(__SANITIZE_ADDRESS__) // which sees each node, and takes no account of their size
+TEST(Size, BeyondTheLimitOfTrees) {
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(translate(of_members("select ", "a", "+", "", 100 * members), postgresql).code, -3);
+    EXPECT_EQ(translate("select 1", postgresql).text, "SELECT 1");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+}
+#endif
+
 // Time is this process's own, whatever else runs.
 TEST(Size, CostsTimeInProportion) {
     const auto time = [](const sequence &s, int count) {
