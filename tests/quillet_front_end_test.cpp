@@ -207,6 +207,14 @@ std::vector<front_end_case> argument_cases() {
          EXIT_FAILURE},
 
         {"NewlineInACommentIsEchoed", {"/*\n*/ select 1"}, "\nSELECT 1\n"},
+
+        // Any bytes, and as many as the system lets an argument have.
+        {"BytesInAString", {"select '\x01\x80\xfe\xff'"}, "SELECT '\x01\x80\xfe\xff'\n"},
+        {"ByteOutsideAString", {"select \xff"}, "Unknow character\n"},
+        {"ControlCharacter", {"select \x01"}, "Unknow character\n"},
+        {"LongestArgument",
+         {"select '" + std::string(131062, 'x') + "'"},
+         "SELECT '" + std::string(131062, 'x') + "'\n"},
     };
 }
 
@@ -264,6 +272,13 @@ std::vector<front_end_case> input_cases() {
         reads("OneLineTooLong", "select " + std::string(5000, 'a') + "\n\n\n", "Query too long\n",
               EXIT_FAILURE),
 
+        // Any bytes; a NUL hides the rest of its line.
+        reads("BytesInAString", "select '\x80\xff'\n\n\n",
+              "SELECT '\x80\xff'\n" + std::string(thanks)),
+        reads("Nul", std::string("select 1\0?\n, 2\n\n\n", 17),
+              "SELECT 1, 2\n" + std::string(thanks)),
+        reads("NulAlone", std::string("\0\n\n", 3), thanks),
+
         // A failure ends the run.
         ends_by_itself("SyntaxError", "nosuch\n\n", syntax_error, EXIT_FAILURE),
         reads("NothingIsReadBehindAFailure", "select 1\n\nnosuch\n\nselect 2\n\n\n",
@@ -308,6 +323,17 @@ TEST_P(FrontEnd, Translates) {
     EXPECT_THAT(result.output, GetParam().output);
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(result.status, GetParam().status);
+}
+
+TEST(FrontEndInput, MayEndAnywhere) {
+    const std::string input =
+        "select 1 -- one\n, 'a\nb'\n\nselect /* x\n*/ \"c\" !~~* 1.5e-5\n\n\n";
+    for (std::size_t size = 0; size <= input.size(); ++size) {
+        const outcome result =
+            run_front_end({.name = "Input", .arguments = {"-"}, .input = input.substr(0, size)});
+        EXPECT_THAT(result.status, testing::AnyOf(EXIT_SUCCESS, EXIT_FAILURE)) << size;
+        EXPECT_EQ(result.errors, "") << size;
+    }
 }
 
 TEST_P(FrontEndWriting, SucceedsWithAWorkingOutput) {
