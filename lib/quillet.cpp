@@ -1,6 +1,5 @@
 #include "quillet.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <iterator>
 #include <memory>
@@ -36,18 +35,35 @@ int fail(int code) {
     return code;
 }
 
-// Whether a builder comes from this library as it is, so that no host sees the tree.
-bool is_our_own(const quillet_builder_info &info) {
-    const auto ours = {quillet_postgresql_builder_create, quillet_mysql_builder_create,
-                       quillet_tree_view_builder_create, quillet_type_view_builder_create};
-    return std::ranges::find(ours, info.constructor) != ours.end();
+struct builder_freed {
+    void operator()(builder *self) const { quillet_builder_free(self); }
+};
+
+using owned_builder = std::unique_ptr<builder, builder_freed>;
+
+// Returns the builder of one of this library's own constructors, which is always the same; NULL for
+// a host's constructor. With it nobody but the library sees the tree.
+builder *own_builder(const quillet_builder_info &info) {
+    struct own {
+        builder *(*constructor)(void);
+        owned_builder made;
+    };
+    static own builders[] = {{quillet_postgresql_builder_create, nullptr},
+                             {quillet_mysql_builder_create, nullptr},
+                             {quillet_tree_view_builder_create, nullptr},
+                             {quillet_type_view_builder_create, nullptr}};
+    for (own &known : builders)
+        if (known.constructor == info.constructor) {
+            if (!known.made)
+                known.made.reset(info.constructor());
+            return known.made.get();
+        }
+    return nullptr;
 }
 
-// Renders the tree in root with a fresh builder and frees both.
-build_result *render_root(const quillet_builder_info &info) {
-    builder *renderer = info.constructor();
+// Renders the tree in root and frees it.
+build_result *render_root(builder *renderer) {
     build_result *result = quillet_call_build_main(renderer, root, nullptr);
-    quillet_builder_free(renderer);
     quillet_node_main_free(root);
     root = nullptr;
     return result;
@@ -85,15 +101,17 @@ int quillet_translate_query(const char *input, char **output, int builder_id) {
     if (!is_builder(builder_id))
         return fail(QUILLET_NO_SUCH_BUILDER);
     const quillet_builder_info &info = *quillet_builders[builder_id];
+    builder *ours = own_builder(info);
     std::optional<tree_arena> arena;
-    if (is_our_own(info))
+    if (ours)
         arena.emplace();
     if (quillet_parse(input) == QUILLET_PARSE_SYNTAX_ERROR)
         return fail(QUILLET_INVALID_QUERY);
     if (!root)
         return fail(QUILLET_CAN_NOT_TRANSLATE); // nested too deeply for the parser
 
-    const std::unique_ptr<build_result, freed> result(render_root(info));
+    const owned_builder of_host(ours ? nullptr : info.constructor());
+    const std::unique_ptr<build_result, freed> result(render_root(ours ? ours : of_host.get()));
     if (!result)
         return fail(QUILLET_CAN_NOT_TRANSLATE);
     std::unique_ptr<char, freed> text(result->query);

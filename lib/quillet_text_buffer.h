@@ -64,7 +64,7 @@ public:
 
 private:
     void reserve(std::size_t needed) {
-        std::size_t capacity = capacity_ ? capacity_ : 256;
+        std::size_t capacity = capacity_ ? capacity_ : 1024;
         while (capacity < needed)
             capacity *= 2;
         data_.reset(static_cast<char *>(std::realloc(data_.release(), capacity)));
