@@ -53,7 +53,7 @@ constexpr builder default_operations = {
 #include "quillet_functions.def"
 };
 
-const dialect default_dialect = {
+dialect default_dialect = {
     .operations = &default_operations,
 #define NODE(kind) .render_##kind = render_##kind,
 #include "quillet_nodes.def"
@@ -66,7 +66,7 @@ const dialect default_dialect = {
 
 } // namespace
 
-const dialect *rendering::dialects = &default_dialect;
+dialect *const rendering::dialects = &default_dialect;
 
 builder *quillet_default_builder_create(void) {
     auto *created = static_cast<builder *>(std::malloc(sizeof(builder)));

@@ -58,8 +58,8 @@ void rendering::know(dialect &own) {
     for (const dialect *known = dialects; known; known = known->next)
         if (known == &own)
             return;
-    own.next = dialects;
-    dialects = &own;
+    own.next = dialects->next;
+    dialects->next = &own;
 }
 
 rendered rendering::take(build_result *result) {

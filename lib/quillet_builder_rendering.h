@@ -68,7 +68,7 @@ struct dialect {
     const renderer<node_function_call> *functions;
     const cast_rule *cast;
     const expression_frame *frame;
-    const dialect *next; // in the list of dialects that renderings know
+    dialect *next; // in the list of dialects that renderings know
 };
 
 // Slots by node type, and the operator and function slots by index.
@@ -241,7 +241,7 @@ private:
     const bool outermost_;
     bool exhausted_ = false;
 
-    static const dialect *dialects; // the default one is the last
+    static dialect *const dialects; // the default one, which most slots are of, is the first
 
     std::vector<insertion> insertions_; // in the order of their places
 
