@@ -66,7 +66,7 @@ dialect default_dialect = {
 
 } // namespace
 
-dialect *const rendering::dialects = &default_dialect;
+dialect &rendering::first_dialect = default_dialect;
 
 builder *quillet_default_builder_create(void) {
     auto *created = static_cast<builder *>(std::malloc(sizeof(builder)));

@@ -55,11 +55,11 @@ void rendering::exchange_scratch() {
 }
 
 void rendering::know(dialect &own) {
-    for (const dialect *known = dialects; known; known = known->next)
+    for (const dialect *known = &first_dialect; known; known = known->next)
         if (known == &own)
             return;
-    own.next = dialects->next;
-    dialects->next = &own;
+    own.next = first_dialect.next;
+    first_dialect.next = &own;
 }
 
 rendered rendering::take(build_result *result) {

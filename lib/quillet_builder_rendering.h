@@ -222,7 +222,7 @@ public:
     // slot.
     template <class Operation>
     static const dialect *dialect_of(Operation builder::*slot, Operation found) {
-        const dialect *candidate = found ? dialects : nullptr;
+        const dialect *candidate = found ? &first_dialect : nullptr;
         while (candidate && candidate->operations->*slot != found)
             candidate = candidate->next;
         return candidate;
@@ -241,7 +241,7 @@ private:
     const bool outermost_;
     bool exhausted_ = false;
 
-    static dialect *const dialects; // the default one, which most slots are of, is the first
+    static dialect &first_dialect; // the default one, which most slots are of
 
     std::vector<insertion> insertions_; // in the order of their places
 
