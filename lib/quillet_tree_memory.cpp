@@ -23,13 +23,14 @@ char *_quillet_arena_end = nullptr;
 
 namespace {
 
-// Chunk by chunk the arena doubles. The first chunks are kept for the next statement.
+// Chunk by chunk the arena doubles.
 struct chunk {
     char *begin = nullptr;
     std::size_t size = 0;
 };
 
 chunk chunks[QUILLET_ARENA_CHUNKS_MAXIMUM];
+std::size_t made_chunks = 0; // those with memory are among the first so many
 std::size_t used_chunks = 0;
 std::size_t used_size = 0;
 
@@ -65,7 +66,7 @@ void begin_chunk(std::size_t room) {
         free_chunk(next);
         next = new_chunk(std::max(room, usual_size(used_chunks)));
     }
-    ++used_chunks;
+    made_chunks = std::max(made_chunks, ++used_chunks);
     used_size += next.size;
     _quillet_arena_next = next.begin;
     _quillet_arena_end = next.begin + next.size;
@@ -91,11 +92,16 @@ tree_arena::tree_arena() {
 #endif
 }
 
+// What a large statement took is kept for the next one, and freed then if that is a small one.
 tree_arena::~tree_arena() {
     _quillet_has_arena = 0;
     _quillet_arena_next = _quillet_arena_end = nullptr;
+    const std::size_t kept = std::clamp<std::size_t>(used_chunks, QUILLET_ARENA_KEPT_CHUNKS,
+                                                     QUILLET_ARENA_KEPT_CHUNKS_MAXIMUM);
+    for (; made_chunks > kept; --made_chunks)
+        free_chunk(chunks[made_chunks - 1]);
     for (std::size_t i = 0; i < used_chunks; ++i)
-        if (i >= QUILLET_ARENA_KEPT_CHUNKS || chunks[i].size > usual_size(i))
+        if (chunks[i].size > usual_size(i))
             free_chunk(chunks[i]);
     used_chunks = used_size = 0;
 }
