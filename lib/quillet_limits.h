@@ -30,12 +30,12 @@
 
 /* The arena for that tree: the size of its first chunk, which holds a usual statement; the size up
    to which the chunks double; how many there can be; how many are kept, 4 MiB in all, enough for
-   thousands of columns; and how many are kept for the next statement alone, 64 MiB in all. */
+   thousands of columns; and how many are kept for the next statement alone, 128 MiB in all. */
 #define QUILLET_ARENA_CHUNK_SIZE (64UL * 1024)
 #define QUILLET_ARENA_CHUNK_SIZE_MAXIMUM (64UL * 1024 * 1024)
 #define QUILLET_ARENA_CHUNKS_MAXIMUM 64
 #define QUILLET_ARENA_KEPT_CHUNKS 6
-#define QUILLET_ARENA_KEPT_CHUNKS_MAXIMUM 10
+#define QUILLET_ARENA_KEPT_CHUNKS_MAXIMUM 11
 
 /* The size from which on a token that is not yet at its end makes the scanner read on by as much
    again, as reading on has a cost that grows with what there is of the token. */
