@@ -215,7 +215,7 @@ TEST(Size, CostsTimeInProportion) {
     for (const sequence &s : same_everywhere) {
         const std::clock_t time = time_of(s, members / 10);
         EXPECT_LT(time, 20 * time_of(s, members / 100)) << s.name;
-        EXPECT_LT(time_of(s, members), 50 * time) << s.name;
+        EXPECT_LT(time_of(s, members), 30 * time) << s.name;
     }
 }
 
