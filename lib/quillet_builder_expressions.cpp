@@ -362,22 +362,6 @@ rendered render_by_rule(rendering &r, const operator_rule &rule, node_expression
     return end_operation(r, rule, node, begin, first);
 }
 
-namespace {
-
-constexpr std::size_t steps_ahead = 6;
-
-// Asks for an operation's memory in advance, and for that of its second operand, which the parser
-// lays right before it: a long chain is larger than the processor's cache.
-void fetch(const node_expression *node) {
-    constexpr int line = 64;
-    const auto address = reinterpret_cast<std::uintptr_t>(node);
-    for (int offset = -9 * line; offset <= 2 * line; offset += line)
-        __builtin_prefetch(
-            reinterpret_cast<const void *>(address + static_cast<std::uintptr_t>(offset)));
-}
-
-} // namespace
-
 // Goes down through first operands as long as they are rendered by this very operation, then
 // completes the expressions on the way back up: a chain of operators needs no stack.
 rendered render_expression_framed(rendering &r, node_expression *node,
@@ -407,8 +391,8 @@ rendered render_expression_framed(rendering &r, node_expression *node,
     while (r.steps.size() > base) {
         const step last = r.steps.back();
         r.steps.pop_back();
-        if (r.steps.size() > base + steps_ahead)
-            fetch(r.steps[r.steps.size() - steps_ahead].node);
+        if (r.steps.size() > base + fetched_ahead)
+            fetch(r.steps[r.steps.size() - fetched_ahead].node);
         result = close_frame(r, last, end_expression(r, last, result));
     }
     return result;

@@ -50,6 +50,8 @@ rendered render_list(rendering &r, List *head, void *data, std::string_view sepa
     while (r.links.size() > base) {
         const rendering::link link = r.links.back();
         r.links.pop_back();
+        if (r.links.size() > base + fetched_ahead)
+            fetch(r.links[r.links.size() - fetched_ahead].node);
         list = static_cast<List *>(link.node);
         rendered item;
         if (separator == blank) {
