@@ -108,7 +108,7 @@ int quillet_translate_query(const char *input, char **output, int builder_id) {
     if (quillet_parse(input) == QUILLET_PARSE_SYNTAX_ERROR)
         return fail(QUILLET_INVALID_QUERY);
     if (!root)
-        return fail(QUILLET_CAN_NOT_TRANSLATE); // nested too deeply for the parser
+        return fail(QUILLET_CAN_NOT_TRANSLATE); // too deep or too large for the parser
 
     const owned_builder of_host(ours ? nullptr : info.constructor());
     const std::unique_ptr<build_result, freed> result(render_root(ours ? ours : of_host.get()));

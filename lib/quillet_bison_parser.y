@@ -4,10 +4,10 @@
  * Conventions
  *
  * - An action makes one node of the tree, named after its nonterminal, and moves the values of the
- *   right-hand side into it; make() copies a record onto the heap, so an action reads as the record
- *   that it builds. An empty optional clause is NULL.
- * - A token's text is a heap copy that the scanner hands over; it ends up in a node. A node that
- *   only carries a word to its parent (identifiers that name types, join types) is freed there.
+ *   right-hand side into it; make() copies a record into the tree's memory, so an action reads as
+ *   the record that it builds. An empty optional clause is NULL.
+ * - A token's text is a copy that the scanner hands over; it ends up in a node. A node that only
+ *   carries a word to its parent (identifiers that name types, join types) is freed there.
  * - Every semantic type has a destructor, so a failed parse frees what it had built.
  * - Lists are left-recursive: the head of the chain holds the last item.
  * - The value union is plain pointers: bison lets the stacks grow from 200 to 10,000 entries in C++

@@ -44,15 +44,11 @@ inline constexpr const node_field *fields_of[node_kind_count] = {
 #include "quillet_nodes.def"
 };
 
-// The value of a field, read or written where its offset says.
+// The value of a field, read where its offset says.
 template <class Value> Value field_value(const void *node, const node_field &field) {
     Value value;
     std::memcpy(&value, static_cast<const char *>(node) + field.offset, sizeof value);
     return value;
-}
-
-template <class Value> void set_field_value(void *node, const node_field &field, Value value) {
-    std::memcpy(static_cast<char *>(node) + field.offset, &value, sizeof value);
 }
 
 } // namespace quillet
