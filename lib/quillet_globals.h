@@ -1,5 +1,5 @@
 /*
- * The state of the library, one for the process. Internal.
+ * The state of the library by name, one for the process. Internal.
  */
 #ifndef QUILLET_GLOBALS_H
 #define QUILLET_GLOBALS_H
@@ -7,7 +7,7 @@
 #include <stdint.h>
 
 #include "quillet.h"
-#include "quillet_tree_node.h"
+#include "quillet_parse_tree.h"
 
 #ifdef __cplusplus
 extern "C" {
@@ -17,7 +17,6 @@ extern quillet_builder_info *quillet_builders[4]; /* the registry, filled by qui
 extern const char *const error_descriptions[4];   /* by the negated code */
 extern int32_t error_code;                        /* of the last translation */
 extern int32_t last_builder_id;                   /* that the last translation asked for */
-extern node_main *root;                           /* the tree of the last successful parse */
 
 #ifdef __cplusplus
 }

@@ -9,7 +9,7 @@
 #include <new>
 #include <string_view>
 
-#include "quillet_globals.h"
+#include "quillet_parse_tree.h"
 #include "quillet_strings_tools.h"
 #include "quillet_tree_memory.h"
 #include "quillet_tree_node.h"

@@ -1,31 +1,10 @@
-#include "quillet_builder.h"
+// The default builder, which renders PostgreSQL text.
 
 #include <cstdlib>
 
 #include "quillet_builder_rendering.h"
-#include "quillet_types.h"
 
 using namespace quillet;
-
-// The three dispatch operations of every slot: quillet_implements_<slot>,
-// quillet_call_build_<slot> and quillet_call_parent_build_<slot>.
-#define DISPATCH(slot, node_type)                                                                  \
-    int quillet_implements_##slot(builder *self) { return self->build_##slot != nullptr; }         \
-    build_result *quillet_call_build_##slot(builder *self, node_type *node, void *data) {          \
-        return self->build_##slot ? self->build_##slot(self, node, data) : nullptr;                \
-    }                                                                                              \
-    build_result *quillet_call_parent_build_##slot(builder *self, node_type *node, void *data) {   \
-        const builder *parent = self->parent;                                                      \
-        return parent && parent->build_##slot ? parent->build_##slot(self, node, data)             \
-                                              : quillet_call_build_##slot(self, node, data);       \
-    }
-#define NODE(kind) DISPATCH(kind, node_##kind)
-#include "quillet_nodes.def"
-#define OPERATOR(name, ...) DISPATCH(operator_##name, node_expression)
-#include "quillet_operators.def"
-#define FUNCTION(name, rule) DISPATCH(function_##name, node_function_call)
-#include "quillet_functions.def"
-#undef DISPATCH
 
 // The default operations: quillet_<kind>_default_builder and
 // quillet_operator_<name>_default_builder.
@@ -72,12 +51,4 @@ builder *quillet_default_builder_create(void) {
     auto *created = static_cast<builder *>(std::malloc(sizeof(builder)));
     *created = default_operations;
     return created;
-}
-
-void quillet_builder_free(builder *self) {
-    while (self) {
-        builder *parent = self->parent;
-        std::free(self);
-        self = parent;
-    }
 }

@@ -16,15 +16,12 @@
 #ifndef QUILLET_H
 #define QUILLET_H
 
-#include <stdint.h>
-
+#include "quillet_builder_info.h"
 #include "quillet_export.h"
 
 #ifdef __cplusplus
 extern "C" {
 #endif
-
-struct builder;
 
 /* The codes of a translation; a builder's own failure is one of them too. */
 enum {
@@ -33,16 +30,6 @@ enum {
     QUILLET_INVALID_QUERY = -2, /* a syntax error, or a part missing that the construct requires */
     QUILLET_CAN_NOT_TRANSLATE = -3 /* the builder has no equal for a construct */
 };
-
-/* An output builder. The record and its texts belong to the library. */
-typedef struct quillet_builder_info {
-    const char *builder_name;
-    const char *builder_description; /* in one line */
-    int32_t builder_id;              /* its index, once quillet_init has been called */
-    struct builder *(*constructor)(void);
-    int32_t (*get_error_code)(void);            /* NULL if the builder has no codes of its own */
-    const char *(*get_error_description)(void); /* likewise */
-} quillet_builder_info;
 
 /* Makes the library ready; to be called before anything else here. Calling it again does no harm.
  */

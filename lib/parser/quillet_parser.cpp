@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstring>
 
-#include "quillet_globals.h"
+#include "quillet_parse_tree.h"
 #include "quillet_limits.h"
 #include "quillet_parser_tools.h"
 #include "quillet_tree_memory.h"

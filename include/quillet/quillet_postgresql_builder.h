@@ -4,8 +4,9 @@
 #ifndef QUILLET_POSTGRESQL_BUILDER_H
 #define QUILLET_POSTGRESQL_BUILDER_H
 
-#include "quillet.h"
 #include "quillet_builder.h"
+#include "quillet_builder_info.h"
+#include "quillet_export.h"
 
 #ifdef __cplusplus
 extern "C" {
