@@ -6,27 +6,41 @@
 #include <optional>
 
 #include "quillet_builder.h"
+#include "quillet_default_rendering.h"
 #include "quillet_globals.h"
 #include "quillet_letter_case.h"
 #include "quillet_mysql_builder.h"
+#include "quillet_mysql_rendering.h"
 #include "quillet_parser.h"
 #include "quillet_postgresql_builder.h"
 #include "quillet_text_buffer.h"
 #include "quillet_tree_memory.h"
 #include "quillet_tree_view_builder.h"
 #include "quillet_type_view_builder.h"
+#include "quillet_type_view_dialect.h"
 
 using namespace quillet;
 
-quillet_builder_info *quillet_builders[4] = {};
-const char *const error_descriptions[4] = {"", "no such builder", "invalid query",
-                                           "can not translate"};
-int32_t error_code = QUILLET_SUCCESS;
-int32_t last_builder_id = 0;
-
 namespace {
 
-constexpr int builder_count = std::size(quillet_builders);
+// The builders in the order of their ids. A dialect is what a builder renders with in place; the
+// tree view walks on its own.
+struct builder_row {
+    quillet_builder_info *(*get_info)(void);
+    builder *(*create)(void);
+    const dialect *own;
+};
+
+constexpr builder_row builder_table[] = {
+    {quillet_postgresql_builder_get_info, quillet_postgresql_builder_create, &postgresql_dialect},
+    {quillet_mysql_builder_get_info, quillet_mysql_builder_create, &mysql_dialect},
+    {quillet_tree_view_builder_get_info, quillet_tree_view_builder_create, nullptr},
+    {quillet_type_view_builder_get_info, quillet_type_view_builder_create, &type_view_dialect},
+};
+
+constexpr int builder_count = std::size(builder_table);
+
+static_assert(builder_count == std::size(quillet_builders));
 
 bool is_builder(int id) { return id >= 0 && id < builder_count; }
 
@@ -39,24 +53,15 @@ struct builder_freed {
     void operator()(builder *self) const { quillet_builder_free(self); }
 };
 
-using owned_builder = std::unique_ptr<builder, builder_freed>;
-
 // Returns the builder of one of this library's own constructors, which is always the same; NULL for
 // a host's constructor. With it nobody but the library sees the tree.
 builder *own_builder(const quillet_builder_info &info) {
-    struct own {
-        builder *(*constructor)(void);
-        owned_builder made;
-    };
-    static own builders[] = {{quillet_postgresql_builder_create, nullptr},
-                             {quillet_mysql_builder_create, nullptr},
-                             {quillet_tree_view_builder_create, nullptr},
-                             {quillet_type_view_builder_create, nullptr}};
-    for (own &known : builders)
-        if (known.constructor == info.constructor) {
-            if (!known.made)
-                known.made.reset(info.constructor());
-            return known.made.get();
+    for (int id = 0; id < builder_count; ++id)
+        if (builder_table[id].create == info.constructor) {
+            builder *&kept = kept_builders[id];
+            if (!kept)
+                kept = info.constructor();
+            return kept;
         }
     return nullptr;
 }
@@ -71,13 +76,15 @@ build_result *render_root(builder *renderer) {
 
 } // namespace
 
+// The dialects of that table, the default one first.
+constinit const dialect *const quillet::dialects[dialect_count] = {
+    builder_table[0].own, builder_table[1].own, builder_table[3].own};
+
 void quillet_init(void) {
-    quillet_builders[0] = quillet_postgresql_builder_get_info();
-    quillet_builders[1] = quillet_mysql_builder_get_info();
-    quillet_builders[2] = quillet_tree_view_builder_get_info();
-    quillet_builders[3] = quillet_type_view_builder_get_info();
-    for (int id = 0; id < builder_count; ++id)
+    for (int id = 0; id < builder_count; ++id) {
+        quillet_builders[id] = builder_table[id].get_info();
         quillet_builders[id]->builder_id = id;
+    }
 }
 
 void quillet_done(void) {}
@@ -110,7 +117,7 @@ int quillet_translate_query(const char *input, char **output, int builder_id) {
     if (!root)
         return fail(QUILLET_CAN_NOT_TRANSLATE); // too deep or too large for the parser
 
-    const owned_builder of_host(ours ? nullptr : info.constructor());
+    const std::unique_ptr<builder, builder_freed> of_host(ours ? nullptr : info.constructor());
     const std::unique_ptr<build_result, freed> result(render_root(ours ? ours : of_host.get()));
     if (!result)
         return fail(QUILLET_CAN_NOT_TRANSLATE);

@@ -1,5 +1,7 @@
 /*
  * The state of the library by name, one for the process. Internal.
+ *
+ * quillet_globals.cpp lists all of it.
  */
 #ifndef QUILLET_GLOBALS_H
 #define QUILLET_GLOBALS_H
@@ -17,6 +19,7 @@ extern quillet_builder_info *quillet_builders[4]; /* the registry, filled by qui
 extern const char *const error_descriptions[4];   /* by the negated code */
 extern int32_t error_code;                        /* of the last translation */
 extern int32_t last_builder_id;                   /* that the last translation asked for */
+extern struct builder *kept_builders[4];          /* our own, made when first needed and kept */
 
 #ifdef __cplusplus
 }

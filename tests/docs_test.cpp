@@ -6,7 +6,46 @@
 #include <sstream>
 #include <string>
 
+#include "quillet_mysql_arithmetic.h"
+#include "quillet_mysql_rendering.h"
+
 namespace {
+
+using namespace quillet;
+using namespace quillet::mysql;
+using namespace quillet::rows;
+using enum quillet::arguments;
+using enum quillet::mysql::reason;
+
+struct operator_row {
+    const char *name;
+    operator_rule rule;
+};
+
+const operator_row operators[] = {
+#define OPERATOR(name, ...) {#name, __VA_ARGS__},
+#include "quillet_mysql_slots.def"
+};
+
+struct function_row {
+    const char *name;
+    function_rule rule;
+};
+
+const function_row functions[] = {
+#define FUNCTION(name, ...) {#name, __VA_ARGS__},
+#include "quillet_mysql_slots.def"
+};
+
+// The type of a call whose type does not depend on its arguments.
+std::string default_type(const std::string &function) {
+    const node_function_call call{};
+#define FUNCTION(name, rule)                                                                       \
+    if (function == #name)                                                                         \
+        return quillet_type_to_string(quillet_get_result_type_function_##rule(&call));
+#include "quillet_functions.def"
+    return "no function";
+}
 
 std::string page() {
     std::ifstream file(DOCS_DIRECTORY "/mysql.md");
@@ -17,11 +56,9 @@ std::string page() {
 
 std::string cell(const std::string &text) { return text.empty() ? "refused" : "`" + text + "`"; }
 
-const std::string rows[] = {
-#define OPERATOR_TEXT(name, text, rule) std::string(" | `") + text + "` |\n",
-#define FUNCTION_TEXT(name, needs, text, type)                                                     \
-    std::string("\n| " #name " | `") + text + "` | " #type " |\n",
-#include "quillet_mysql_slots.def"
+std::string quoted(const text_template &text) { return std::string("`") + text.text + "`"; }
+
+const std::string fields[] = {
 #define FIELD(name, text, interval_text, mask)                                                     \
     "\n| " #name " | " + cell(text) + " | " + cell(interval_text) + " | " + cell(mask) + " |\n",
 #include "quillet_mysql_fields.def"
@@ -31,8 +68,25 @@ const std::string rows[] = {
 
 TEST(MysqlPage, HoldsEveryTextAndField) {
     const std::string text = page();
-    for (const std::string &row : rows)
+    const auto expect = [&](const std::string &row) {
         EXPECT_NE(text.find(row), std::string::npos) << row;
+    };
+    for (const auto &[name, rule] : operators) {
+        if (rule.text.count)
+            expect(" | " + quoted(rule.text) + " |\n");
+        if (rule.has_truths)
+            expect(" | " + quoted(rule.by_truth[0]) + ", " + quoted(rule.by_truth[1]) + ", " +
+                   quoted(rule.by_truth[2]) + " |\n");
+        for (const typed_text &row : rule.by_types)
+            if (row.text.count)
+                expect(quoted(row.text));
+    }
+    for (const auto &[name, rule] : functions)
+        if (rule.text.count)
+            expect(std::string("\n| ") + name + " | " + quoted(rule.text) + " | " +
+                   default_type(name) + " |\n");
+    for (const std::string &row : fields)
+        expect(row);
 }
 
 TEST(MysqlPage, HoldsEveryRefusal) {
@@ -56,11 +110,15 @@ TEST(MysqlPage, NamesEveryRefusedOrOwnOperatorAndFunction) {
     const auto expect_name = [&](const std::string &name) {
         EXPECT_NE(text.find(name), std::string::npos) << name;
     };
-#define OPERATOR_TEXT(name, text, rule) expect_name("\n| " #name " | `");
-#define OPERATOR_PICK(name, function) expect_name("\n| " #name " | `");
-#define OPERATOR_OWN(name, function) expect_name("\n| " #name " | `");
-#define FUNCTION_OWN(name, function) expect_name(#name);
-#define FUNCTION_REFUSED(name, error) expect_name("| `" #name "(…)` |");
-#define FUNCTION_RESERVED(name, error) expect_name("`" #name "`");
-#include "quillet_mysql_slots.def"
+    for (const auto &[name, rule] : operators)
+        if (!rule.refusal && rule.by_types.empty())
+            expect_name(std::string("\n| ") + name + " | `");
+    for (const auto &[name, rule] : functions) {
+        if (rule.is_reserved)
+            expect_name(std::string("`") + name + "`");
+        else if (rule.refusal)
+            expect_name(std::string("| `") + name + "(…)` |");
+        else
+            expect_name(name);
+    }
 }

@@ -10,6 +10,7 @@
 
 #include "quillet.h"
 #include "quillet_globals.h"
+#include "quillet_mysql_builder.h"
 #include "quillet_mysql_rendering.h"
 #include "support.h"
 

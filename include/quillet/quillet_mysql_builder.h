@@ -30,16 +30,16 @@ QUILLET_API const char *quillet_mysql_get_error_description(void);
  * The operations of the slots that the builder replaces, and of to_date, to_timestamp and
  * to_number, which refuse and are not installed.
  */
-#define KIND(kind)                                                                                 \
+#define KIND(kind, ...)                                                                            \
     QUILLET_API build_result *quillet_##kind##_mysql_builder(builder *self, node_##kind *node,     \
                                                              void *data);
-#define MYSQL_OPERATOR(name)                                                                       \
+#define OPERATOR(name, ...)                                                                        \
     QUILLET_API build_result *quillet_operator_##name##_mysql_builder(                             \
         builder *self, node_expression *node, void *data);
-#define MYSQL_FUNCTION(name)                                                                       \
+#define FUNCTION(name, ...)                                                                        \
     QUILLET_API build_result *quillet_function_##name##_mysql_builder(                             \
         builder *self, node_function_call *node, void *data);
-#include "quillet_mysql_operations.def"
+#include "quillet_mysql_slots.def"
 
 #ifdef __cplusplus
 }

@@ -14,12 +14,21 @@
    statement could take all memory there is. */
 #define QUILLET_TEXT_SIZE_MAXIMUM (256UL * 1024 * 1024)
 
-/* The share of the machine stack's size that rendering may use, as a divisor: the rest belongs to
-   the host, which may be deep in its own calls. */
-#define QUILLET_STACK_SHARE 2
+/* What rendering takes of the machine's stack without asking the system for its bounds, which takes
+   as long as translating twenty statements. */
+#define QUILLET_STACK_UNASKED (16UL * 1024)
 
-/* The stack's size if the system does not limit it, and the most that is relied upon. */
-#define QUILLET_STACK_SIZE_ASSUMED (8UL * 1024 * 1024)
+/* What rendering leaves of the running thread's stack for the calls of a single step, for the
+   system and for a host's operations: a share of its size, as a divisor, and at least so much. */
+#define QUILLET_STACK_RESERVE_SHARE 8
+#define QUILLET_STACK_RESERVE_MINIMUM (16UL * 1024)
+
+/* The most of a stack that is relied upon; the one that is assumed if the system does not tell; and
+   what is assumed below the first rendering if that runs on another stack than its thread's, as a
+   coroutine does. */
+#define QUILLET_STACK_SIZE_MAXIMUM (64UL * 1024 * 1024)
+#define QUILLET_STACK_SIZE_USUAL (8UL * 1024 * 1024)
+#define QUILLET_STACK_SIZE_FOREIGN (48UL * 1024)
 
 /* The size of a query, which the scanner counts in an int and holds several times over. */
 #define QUILLET_QUERY_SIZE_MAXIMUM (256UL * 1024 * 1024)
@@ -41,8 +50,8 @@
    again, as reading on has a cost that grows with what there is of the token. */
 #define QUILLET_LONG_TOKEN (64L * 1024)
 
-/* The steps down a chain or list for which a rendering keeps its memory for the next one, some
-   hundred bytes each. */
+/* The steps down a chain or list, and the gaps in a text, for which a rendering keeps its memory
+   for the next one, some hundred bytes each. */
 #define QUILLET_KEPT_STEPS_MAXIMUM 65536
 
 #endif

@@ -4,9 +4,6 @@
 #include <cstdlib>
 #include <cstring>
 
-parse_data *quillet_query = nullptr;
-int quillet_comment_count = 0;
-
 parse_data *_quillet_parse_data_create(const char *text) {
     auto *data = static_cast<parse_data *>(std::malloc(sizeof(parse_data)));
     const std::size_t length = std::strlen(text);

@@ -40,18 +40,7 @@ public:
         return end;
     }
 
-    // Repeats a part of the text behind its end.
-    void append_copy(std::size_t begin, std::size_t count) {
-        char *end = grow(count);
-        std::memcpy(end, data() + begin, count);
-    }
-
     void truncate(std::size_t size) { size_ = size; }
-
-    void erase(std::size_t begin, std::size_t end) {
-        std::memmove(data_.get() + begin, data_.get() + end, size_ - end);
-        size_ -= end - begin;
-    }
 
     char *at(std::size_t position) { return data_.get() + position; }
 

@@ -4,15 +4,14 @@
 #ifndef QUILLET_TEXT_TEMPLATE_H
 #define QUILLET_TEXT_TEMPLATE_H
 
+#include <cstddef>
 #include <cstdint>
-#include <initializer_list>
+#include <span>
 #include <string_view>
-
-#include "quillet_text_buffer.h"
 
 namespace quillet {
 
-// What a mark in a text stands for.
+// What a mark in a text stands for, in the order in which operands are rendered.
 enum class operand : std::uint8_t {
     none,
     first,
@@ -29,38 +28,49 @@ enum class operand : std::uint8_t {
 // for a truth value, $e for an ESCAPE, $o and $p for the pairs of an OVERLAPS.
 struct text_template {
     struct piece {
-        std::string_view literal;
-        operand mark = operand::none;
+        std::uint8_t begin = 0; // of the literal
+        std::uint8_t size = 0;
+        operand mark = operand::none; // only after the last literal there may be none
     };
 
+    static constexpr int operands_maximum = 4;
+
+    const char *text = "";
     piece pieces[8] = {};
-    int count = 0;
-    bool repeats = false; // whether an operand stands in it twice
+    std::uint8_t count = 0;
+    std::uint8_t operand_count = 0; // how many different ones there are
+    operand operands[operands_maximum] = {};
+    bool in_order = true; // whether each stands once, in the order in which they are rendered
 
     constexpr text_template() = default;
 
-    constexpr explicit text_template(std::string_view text) {
+    constexpr explicit text_template(std::string_view marked) : text(marked.data()) {
         std::size_t begin = 0;
-        for (;;) {
-            const std::size_t mark = text.find('$', begin);
-            if (mark == std::string_view::npos)
-                break;
-            pieces[count++] = {text.substr(begin, mark - begin), operand_for(text[mark + 1])};
-            begin = mark + 2;
+        while (begin < marked.size()) {
+            const std::size_t end = marked.find('$', begin);
+            const bool is_last = end == std::string_view::npos;
+            const std::size_t size = (is_last ? marked.size() : end) - begin;
+            const operand mark = is_last ? operand::none : operand_of(marked[end + 1]);
+            pieces[count++] = {static_cast<std::uint8_t>(begin), static_cast<std::uint8_t>(size),
+                               mark};
+            begin += is_last ? size : size + 2;
+            if (mark != operand::none)
+                add_operand(mark);
         }
-        if (begin < text.size())
-            pieces[count++] = {text.substr(begin), operand::none};
-        for (int i = 0; i < count; ++i)
-            for (int j = 0; j < i; ++j)
-                repeats = repeats ||
-                          (pieces[i].mark == pieces[j].mark && pieces[i].mark != operand::none);
+        if (marked.size() > UINT8_MAX ||
+            (!in_order && operands[operand_count - 1] > operand::fourth))
+            throw "a text is too long, or needs operands rearranged that have no number";
     }
 
-    // Whether the first operand is the first thing rendered.
-    constexpr bool begins_with_operand() const { return pieces[0].mark == operand::first; }
+    constexpr std::string_view literal(int index) const {
+        return {text + pieces[index].begin, pieces[index].size};
+    }
+
+    // Whether the first operand is what is rendered first.
+    constexpr bool begins_with_operand() const { return operands[0] == operand::first; }
 
 private:
-    static constexpr operand operand_for(char mark) {
+    static constexpr operand operand_of(char mark) {
         switch (mark) {
         case '1': return operand::first;
         case '2': return operand::second;
@@ -73,15 +83,39 @@ private:
         default: throw "a text has an unknown mark";
         }
     }
+
+    // Puts an operand where it belongs among those found before.
+    constexpr void add_operand(operand mark) {
+        int place = 0;
+        while (place < operand_count && operands[place] < mark)
+            ++place;
+        in_order = in_order && place == operand_count;
+        if (place < operand_count && operands[place] == mark)
+            return;
+        for (int i = operand_count++; i > place; --i)
+            operands[i] = operands[i - 1];
+        operands[place] = mark;
+    }
 };
 
-// The size of a text whose operands, $1 and so on, are known.
-std::size_t filled_size(const text_template &text,
-                        std::initializer_list<std::string_view> operands);
+// What stands for a mark among operands that are known, $1 and so on; nothing for one that is not.
+inline std::string_view operand_for(operand mark, std::span<const std::string_view> operands) {
+    const auto number = static_cast<std::size_t>(mark);
+    return number >= 1 && number <= operands.size() ? operands[number - 1] : std::string_view{};
+}
 
-// Writes a text whose operands, $1 and so on, are known.
-void append_filled(text_buffer &out, const text_template &text,
-                   std::initializer_list<std::string_view> operands);
+// The size of a text with its operands.
+std::size_t filled_size(const text_template &text, std::span<const std::string_view> operands);
+
+// Appends a text with its operands.
+template <class Output>
+void append_filled(Output &out, const text_template &text,
+                   std::span<const std::string_view> operands) {
+    for (int i = 0; i < text.count; ++i) {
+        out.append(text.literal(i));
+        out.append(operand_for(text.pieces[i].mark, operands));
+    }
+}
 
 } // namespace quillet
 

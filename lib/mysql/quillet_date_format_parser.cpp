@@ -4,9 +4,6 @@
 
 #include "quillet_strings_tools.h"
 
-parse_data *quillet_date_format = nullptr;
-char *quillet_format_string = nullptr;
-
 date_format_node *quillet_date_format_node_create(void) {
     return static_cast<date_format_node *>(std::calloc(1, sizeof(date_format_node)));
 }

@@ -1,12 +1,15 @@
 // Fields and truncation of dates and times in the builder mysql.
 
-#include <cstdlib>
 #include <iterator>
+#include <string>
 
+#include "quillet_function_rules.h"
 #include "quillet_mysql_rendering.h"
 #include "quillet_name_index.h"
+#include "quillet_operands.h"
+#include "quillet_text_buffer.h"
 
-namespace quillet {
+namespace quillet::mysql {
 
 namespace {
 
@@ -45,85 +48,79 @@ const text_template *extraction(const date_field *field, int type) {
     return text.count > 0 ? &text : nullptr;
 }
 
+// The text of a field of a date expression of a type, NULL if there is none.
 char *extracted(const date_field *field, const char *date_expression, int type) {
     const text_template *text = extraction(field, type);
     if (!text)
         return nullptr;
+    const std::string_view operands[] = {date_expression ? date_expression : ""};
     text_buffer out;
-    append_filled(out, *text, {date_expression ? date_expression : ""});
+    append_filled(out, *text, operands);
     return out.release();
 }
 
-void append_truncation(text_buffer &out, const date_field &field,
-                       std::string_view date_expression) {
-    static constexpr text_template text("DATE_FORMAT($1, '$2')");
-    append_filled(out, text, {date_expression, field.mask});
-}
+// The text of a date that is cut off after the field with a mask.
+constexpr text_template truncation("DATE_FORMAT($1, '$2')");
 
-// EXTRACT and DATE_PART of a source that has been rendered as the last of the operands.
-rendered render_field(node_function_call *call, operand_texts &operands, std::string_view name,
-                      int type) {
+// EXTRACT and DATE_PART, the name of whose field has been rendered.
+rendered render_field(rendering &r, node_function_call *call, std::string_view name,
+                      const rendered &rendered_name, node_expression *source) {
+    operands all(r);
+    all.fail_with(rendered_name);
+    const int type = all.add(source).record ? source->sql_type : 0;
     call->sql_type = equal_ignoring_case(name, "second") ? QUILLET_TYPE_FLOAT8 : QUILLET_TYPE_INT8;
-    const text_template *text = extraction(field_named(name), type);
-    if (!text) {
-        operands.drop();
-        return refuse(mysql_error_EXTRACT_FIELD);
-    }
-    return operands.write_last(*text);
-}
-
-std::int32_t type_of(const node_expression *node, rendered result) {
-    return result.record ? node->sql_type : 0;
+    if (const text_template *text = extraction(field_named(name), type))
+        return all.write(*text);
+    all.drop();
+    return refuse(reason::EXTRACT_FIELD);
 }
 
 } // namespace
 
-rendered render_date_part(rendering &r, node_function_call *call) {
+rendered render_date_part(rendering &r, node_function_call *call, void *) {
     node_expression *field = previous_argument(*call);
     node_expression *source = last_argument(*call);
     if (!field || !source)
         return missing_part;
-    operand_texts operands(r);
-    operands.add(field);
-    const int type = type_of(source, operands.add(source));
-    return render_field(call, operands, without_quotes(operands[0]), type);
+    std::string name;
+    const rendered rendered_name = r.taken_child(field, name);
+    return render_field(r, call, without_quotes(name), rendered_name, source);
 }
 
-rendered render_extract(rendering &r, node_function_call *call) {
+rendered render_extract(rendering &r, node_function_call *call, void *) {
     const node_from_for_argument *argument = call->from_for_argument;
     const node_expression *field = argument ? argument->expression_1 : nullptr;
     const node_column_reference *column = field ? field->column_reference : nullptr;
     if (!column || !column->column_name || !argument->expression_2)
         return missing_part;
-    operand_texts operands(r);
-    operands.add(column->column_name);
-    const int type = type_of(argument->expression_2, operands.add(argument->expression_2));
-    return render_field(call, operands, operands[0], type);
+    std::string name;
+    const rendered rendered_name = r.taken_child(column->column_name, name);
+    return render_field(r, call, name, rendered_name, argument->expression_2);
 }
 
-rendered render_date_trunc(rendering &r, node_function_call *call) {
+rendered render_date_trunc(rendering &r, node_function_call *call, void *) {
     node_expression *field = previous_argument(*call);
     node_expression *source = last_argument(*call);
     if (!field || !source)
         return missing_part;
-    operand_texts operands(r);
-    operands.add(field);
-    const int type = type_of(source, operands.add(source));
+    std::string name;
+    operands all(r);
+    all.fail_with(r.taken_child(field, name));
+    const bool is_interval = all.add(source).record && source->sql_type == QUILLET_TYPE_INTERVAL;
     call->sql_type = QUILLET_TYPE_TIMESTAMP;
-    const date_field *found = field_named(without_quotes(operands[0]));
-    if (type == QUILLET_TYPE_INTERVAL || !found || found->mask.empty()) {
-        operands.drop();
-        return refuse(type == QUILLET_TYPE_INTERVAL ? mysql_error_TRUNC_INTERVAL
-                                                    : mysql_error_TRUNC_FIELD);
+    const date_field *found = field_named(without_quotes(name));
+    if (is_interval || !found || found->mask.empty()) {
+        all.drop();
+        return refuse(is_interval ? reason::TRUNC_INTERVAL : reason::TRUNC_FIELD);
     }
-    text_buffer out;
-    append_truncation(out, *found, operands[1]);
-    return operands.write(out.from(0));
+    all.add_text(found->mask);
+    return all.write(truncation);
 }
 
-} // namespace quillet
+} // namespace quillet::mysql
 
 using namespace quillet;
+using namespace quillet::mysql;
 
 // _quillet_mysql_extract_date_<field> for every field.
 #define FIELD(name, ...)                                                                           \
@@ -142,7 +139,8 @@ char *_quillet_mysql_trunc_date(const char *type, const char *date_expression) {
     const date_field *field = field_named(type);
     if (!field || field->mask.empty())
         return nullptr;
+    const std::string_view operands[] = {date_expression ? date_expression : "", field->mask};
     text_buffer out;
-    append_truncation(out, *field, date_expression ? date_expression : "");
+    append_filled(out, truncation, operands);
     return out.release();
 }

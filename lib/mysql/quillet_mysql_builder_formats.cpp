@@ -1,10 +1,14 @@
 // TO_CHAR in the builder mysql.
 
 #include <memory>
+#include <string>
 
+#include "quillet_function_rules.h"
 #include "quillet_mysql_rendering.h"
+#include "quillet_operands.h"
+#include "quillet_text_buffer.h"
 
-namespace quillet {
+namespace quillet::mysql {
 
 namespace {
 
@@ -83,34 +87,33 @@ bool append_mask(text_buffer &out, std::string_view pattern) {
 
 } // namespace
 
-rendered render_to_char(rendering &r, node_function_call *call) {
+rendered render_to_char(rendering &r, node_function_call *call, void *) {
+    static constexpr text_template text("DATE_FORMAT($1, '$2')");
     node_expression *value = previous_argument(*call);
     const node_expression *pattern = last_argument(*call);
     const node_const_generic *literal = pattern ? pattern->const_generic : nullptr;
     if (!value || !literal || !literal->const_string)
         return missing_part;
-    operand_texts operands(r);
-    const rendered rendered_value = operands.add(value);
-    operands.add(literal->const_string);
+    operands all(r);
+    const rendered rendered_value = all.add(value);
+    std::string quoted_pattern;
+    all.fail_with(r.taken_child(literal->const_string, quoted_pattern));
     if (!rendered_value.record || !quillet_is_datetime_not_interval(value->sql_type)) {
-        operands.drop();
-        return refuse(mysql_error_TO_CHAR);
+        all.drop();
+        return refuse(reason::TO_CHAR);
     }
-    text_buffer out;
-    out.append("DATE_FORMAT(");
-    out.append(operands[0]);
-    out.append(", '");
-    const bool known = append_mask(out, without_quotes(operands[1]));
-    out.append("')");
-    rendered result = operands.write(out.from(0));
-    if (!known)
-        result.fail_with(refuse(mysql_error_DEFAULT_VALUE));
+    text_buffer mask;
+    const bool is_known = append_mask(mask, without_quotes(quoted_pattern));
+    all.add_text(mask.from(0));
+    rendered result = all.write(text);
+    if (!is_known)
+        result.fail_with(refuse(reason::DEFAULT_VALUE));
     return result;
 }
 
-} // namespace quillet
+} // namespace quillet::mysql
 
 char *_quillet_mysql_date_format(const date_format_node *node) {
     quillet::text_buffer out;
-    return quillet::append_specifier(out, *node) ? out.release() : nullptr;
+    return quillet::mysql::append_specifier(out, *node) ? out.release() : nullptr;
 }

@@ -3,14 +3,12 @@
 #include <cstdio>
 #include <cstring>
 
-#include "quillet_parse_tree.h"
 #include "quillet_limits.h"
+#include "quillet_parse_tree.h"
 #include "quillet_parser_tools.h"
 #include "quillet_tree_memory.h"
 
 extern "C" int yy_quillet_parse(void);
-
-node_main *root = nullptr;
 
 // Reports a syntax error or an overflow of the parser's stacks, for which bison has words of its
 // own. The end that the scanner puts to a tree that is too large is no error of the statement.

@@ -1,8 +1,8 @@
 // The default rendering of function calls and their arguments.
 
-#include <iterator>
-
-#include "quillet_builder_lists.h"
+#include "quillet_default_rendering.h"
+#include "quillet_function_rules.h"
+#include "quillet_lists.h"
 #include "quillet_name_index.h"
 #include "quillet_types.h"
 
@@ -10,62 +10,40 @@ namespace quillet {
 
 namespace {
 
-constexpr name_index<std::size(function_slots)> function_names({
+constexpr name_index<function_count> function_names({
 #define FUNCTION(name, rule) #name,
 #include "quillet_functions.def"
 });
-
-constexpr int (*function_types[])(const node_function_call *) = {
-#define FUNCTION(name, rule) quillet_get_result_type_function_##rule,
-#include "quillet_functions.def"
-};
-
-// Renders the call by what the builder has in the function's slot.
-rendered render_by_slot(rendering &r, int index, node_function_call *node) {
-    const auto slot = function_slots[index];
-    const auto own = r.self->*slot;
-    if (const dialect *home = rendering::dialect_of(slot, own))
-        return home->functions[index](r, node, nullptr);
-    return r.take(own(r.self, node, nullptr));
-}
-
-// Renders an argument form; the first one with a text is the call's.
-template <class Node> void render_argument(rendering &r, Node *argument, rendered &chosen) {
-    if (!argument)
-        return;
-    const auto begin = r.here();
-    const rendered result = r.child(argument);
-    chosen.fail_with(result);
-    if (chosen.text)
-        r.drop_from(begin);
-    chosen.text = chosen.text || result.text;
-}
 
 } // namespace
 
 rendered render_function_call(rendering &r, node_function_call *node, void *) {
     if (!node->function_name)
         return missing_part;
-    const auto begin = r.here();
+    const output::place begin = r.out.here();
     rendered result = r.child(node->function_name);
-    const int index = result.text ? function_names.find(r.out.from(begin.size)) : -1;
-    if (index >= 0 && r.self->*function_slots[index]) {
-        r.drop_from(begin);
-        return render_by_slot(r, index, node);
+    const int index = result.text ? function_names.find(r.out.text_since(begin)) : -1;
+    if (index >= 0) {
+        const auto slot = function_slots[index];
+        if (const auto own = r.self->*slot) {
+            r.out.cut(begin);
+            const dialect *home = dialect_of(slot, own);
+            return home ? render_function(r, *home, index, node)
+                        : r.take(own(r.self, node, nullptr));
+        }
     }
     r.out.append('(');
-    rendered argument = textless;
-    render_argument(r, node->expressions_list, argument);
-    render_argument(r, node->agregate_expression, argument);
-    render_argument(r, node->using_argument, argument);
-    render_argument(r, node->placing_from_for_argument, argument);
-    render_argument(r, node->in_argument, argument);
-    render_argument(r, node->from_for_argument, argument);
-    render_argument(r, node->trim_argument, argument);
+    first_with_text argument(r);
+    argument.add(node->expressions_list);
+    argument.add(node->agregate_expression);
+    argument.add(node->using_argument);
+    argument.add(node->placing_from_for_argument);
+    argument.add(node->in_argument);
+    argument.add(node->from_for_argument);
+    argument.add(node->trim_argument);
     r.out.append(')');
-    node->sql_type = index >= 0 ? function_types[index](node) : int{QUILLET_TYPE_UNKNOWN};
-    result.fail_with(argument);
-    return {true, true, result.status};
+    node->sql_type = index >= 0 ? default_type_of(index, *node) : int{QUILLET_TYPE_UNKNOWN};
+    return {true, true, argument.status() ? argument.status() : result.status};
 }
 
 rendered render_expressions_list(rendering &r, node_expressions_list *node, void *data) {
@@ -74,7 +52,7 @@ rendered render_expressions_list(rendering &r, node_expressions_list *node, void
 }
 
 rendered render_agregate_expression(rendering &r, node_agregate_expression *node, void *) {
-    const auto begin = r.here();
+    const output::place begin = r.out.here();
     r.out.append(node->type == QUILLET_AGREGATE_DISTINCT ? "DISTINCT " : "ALL ");
     const rendered expression = r.child(node->expression);
     switch (node->type) {
@@ -82,7 +60,7 @@ rendered render_agregate_expression(rendering &r, node_agregate_expression *node
     case QUILLET_AGREGATE_ALL: return {true, true, expression.status};
     default: break;
     }
-    r.drop_from(begin);
+    r.out.cut(begin);
     if (node->type == QUILLET_AGREGATE_STAR)
         r.out.append('*');
     return {true, node->type == QUILLET_AGREGATE_STAR, expression.status};

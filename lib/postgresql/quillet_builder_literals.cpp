@@ -1,6 +1,6 @@
 // The default rendering of literals.
 
-#include "quillet_builder_rendering.h"
+#include "quillet_default_rendering.h"
 #include "quillet_types.h"
 
 namespace quillet {
@@ -16,65 +16,58 @@ rendered render_literal(rendering &r, const char *text, std::int32_t &sql_type, 
     return a_text;
 }
 
-// Renders a form of a literal, which counts if none before it had a text.
-template <class Form>
-void render_form(rendering &r, node_const_generic &node, Form *form, int type, rendered &chosen) {
-    const auto begin = r.here();
-    const rendered result = r.child(form);
-    chosen.fail_with(result);
-    if (chosen.text)
-        r.drop_from(begin);
-    else if (result.text)
-        node.sql_type = type;
-    chosen.text = chosen.text || result.text;
-}
-
 } // namespace
 
 // A type word stands before a string alone, and only a date or time shows its time zone. A literal
 // without any form is NULL.
 rendered render_const_generic(rendering &r, node_const_generic *node, void *) {
-    const auto begin = r.here();
-    rendered value{true, false, 0};
-    const std::string_view word = quillet_type_to_string(node->type);
-    if (node->const_string && !word.empty()) {
-        r.out.append(word);
+    const std::string_view word = node->const_string ? quillet_type_to_string(node->type) : "";
+    const output::place begin = r.out.here();
+    r.out.append(word);
+    const output::place after_word = r.out.here();
+    if (!word.empty())
         r.out.append(' ');
-    }
-    const std::size_t behind_word = r.out.size();
-    render_form(r, *node, node->const_string, node->type ? node->type : int{QUILLET_TYPE_VARCHAR},
-                value);
-    const bool is_string = value.text;
+    const output::place after_blank = r.out.here();
+
+    first_with_text value(r);
+    if (value.add(node->const_string))
+        node->sql_type = node->type ? node->type : int{QUILLET_TYPE_VARCHAR};
+    const bool is_string = value.has_text();
     if (!is_string)
-        r.drop_from(begin);
-    render_form(r, *node, node->const_boolean, QUILLET_TYPE_BOOL, value);
-    render_form(r, *node, node->const_integer, QUILLET_TYPE_INT8, value);
-    render_form(r, *node, node->const_floating, QUILLET_TYPE_FLOAT8, value);
-    if (!value.text) {
+        r.out.cut(begin);
+    if (value.add(node->const_boolean))
+        node->sql_type = QUILLET_TYPE_BOOL;
+    if (value.add(node->const_integer))
+        node->sql_type = QUILLET_TYPE_INT8;
+    if (value.add(node->const_floating))
+        node->sql_type = QUILLET_TYPE_FLOAT8;
+    if (!value.has_text()) {
         r.out.append("NULL");
         node->sql_type = QUILLET_TYPE_UNKNOWN;
     }
 
-    const auto behind_value = r.here();
-    const std::size_t value_begin = is_string ? behind_word : begin.size;
-    value.fail_with(r.spaced_child(value_begin, node->at_time_zone));
-    if (!is_string || !quillet_is_datetime(node->type))
-        r.drop_from(behind_value);
-    if (!word.empty() && is_string && r.out.size() == behind_word)
-        r.out.truncate(behind_word - 1); // the string was empty
-    return {true, true, value.status};
+    rendered result{true, true, value.status()};
+    if (node->at_time_zone) {
+        const output::place after_value = r.out.here();
+        result.fail_with(r.spaced_child(is_string ? after_blank : begin, node->at_time_zone));
+        if (!is_string || !quillet_is_datetime(node->type))
+            r.out.cut(after_value);
+    }
+    if (is_string && !r.out.has_grown_since(after_blank))
+        r.out.cut(after_word); // the string was empty
+    return result;
 }
 
 rendered render_at_time_zone(rendering &r, node_at_time_zone *node, void *) {
     if (!node->const_string)
         return missing_part;
-    const auto begin = r.here();
+    const output::place begin = r.out.here();
     const rendered result = r.enclosed_child(
         node->type == QUILLET_ZONE_TIME_INTERVAL ? "AT TIME ZONE INTERVAL " : "AT TIME ZONE ",
         node->const_string);
     if (node->type == QUILLET_ZONE_TIME || node->type == QUILLET_ZONE_TIME_INTERVAL)
         return result;
-    r.drop_from(begin);
+    r.out.cut(begin);
     return missing_part;
 }
 

@@ -1,6 +1,7 @@
 // The default rendering of statements and clauses.
 
-#include "quillet_builder_lists.h"
+#include "quillet_default_rendering.h"
+#include "quillet_lists.h"
 
 namespace quillet {
 
@@ -20,9 +21,9 @@ rendered render_select(rendering &r, node_select *node, void *) {
     if (!node->distinct_select_list)
         return missing_part;
     rendered result = r.enclosed_child("SELECT ", node->distinct_select_list);
-    const auto behind_list = r.here();
+    const output::place after_list = r.out.here();
     r.out.append(" FROM ");
-    const std::size_t begin = r.out.size();
+    const output::place begin = r.out.here();
     const rendered tables = r.child(node->tables);
     result.fail_with(tables);
     result.fail_with(r.spaced_child(begin, node->where_clausule));
@@ -30,14 +31,14 @@ rendered render_select(rendering &r, node_select *node, void *) {
     result.fail_with(r.spaced_child(begin, node->order_by_clausule));
     result.fail_with(r.spaced_child(begin, node->limit_clausule));
     if (!tables.text)
-        r.drop_from(behind_list);
+        r.out.cut(after_list);
     return result;
 }
 
 rendered render_insert(rendering &r, node_insert *node, void *) {
     if (!node->table || !node->values_list)
         return missing_part;
-    const auto begin = r.here();
+    const output::place begin = r.out.here();
     rendered result = r.enclosed_child("INSERT INTO ", node->table);
     const rendered columns = r.prefixed_child(" (", node->identifier_list);
     result.fail_with(columns);
@@ -45,7 +46,7 @@ rendered render_insert(rendering &r, node_insert *node, void *) {
     result.fail_with(r.child(node->values_list, node->identifier_list));
     const auto *values = node->values_list->expression_or_default_list;
     if (columns.text && node->identifier_list->count != (values ? values->count : 0)) {
-        r.drop_from(begin);
+        r.out.cut(begin);
         return missing_part;
     }
     return result;
@@ -55,7 +56,7 @@ rendered render_update(rendering &r, node_update *node, void *) {
     if (!node->table || !node->set_clausule)
         return missing_part;
     r.out.append("UPDATE ");
-    const std::size_t begin = r.out.size();
+    const output::place begin = r.out.here();
     rendered result = a_text;
     result.fail_with(r.child(node->table));
     result.fail_with(r.spaced_child(begin, node->set_clausule));
@@ -67,7 +68,7 @@ rendered render_delete(rendering &r, node_delete *node, void *) {
     if (!node->table)
         return missing_part;
     r.out.append("DELETE FROM ");
-    const std::size_t begin = r.out.size();
+    const output::place begin = r.out.here();
     rendered result = a_text;
     result.fail_with(r.child(node->table));
     result.fail_with(r.spaced_child(begin, node->where_clausule));
@@ -139,7 +140,7 @@ rendered render_set_item(rendering &r, node_set_item *node, void *) {
 rendered render_tables(rendering &r, node_tables *node, void *) {
     if (!node->tables_list)
         return missing_part;
-    const std::size_t begin = r.out.size();
+    const output::place begin = r.out.here();
     rendered result = r.child(node->tables_list);
     const rendered joins = r.spaced_child(begin, node->join_list);
     result.fail_with(joins);
@@ -177,7 +178,7 @@ rendered render_join(rendering &r, node_join *node, void *) {
     if (node->natural)
         r.out.append("NATURAL ");
     r.out.append(words[known ? node->type : QUILLET_JOIN_NONE]);
-    const std::size_t begin = r.out.size();
+    const output::place begin = r.out.here();
     rendered result = r.child(node->table);
     const rendered condition = r.spaced_child(begin, node->join_expression);
     result.fail_with(condition);
@@ -187,17 +188,15 @@ rendered render_join(rendering &r, node_join *node, void *) {
 rendered render_join_type(rendering &, node_join_type *, void *) { return absent; }
 
 rendered render_join_expression(rendering &r, node_join_expression *node, void *) {
-    rendered result = textless;
     const rendered condition = r.prefixed_child("ON ", node->expression);
-    const auto behind_condition = r.here();
+    const output::place after_condition = r.out.here();
     const rendered names = r.prefixed_child("USING(", node->identifier_list);
-    result.fail_with(condition);
-    result.fail_with(names);
     if (condition.text)
-        r.drop_from(behind_condition);
+        r.out.cut(after_condition);
     else if (names.text)
         r.out.append(")");
-    result.text = condition.text || names.text;
+    rendered result{true, condition.text || names.text, condition.status};
+    result.fail_with(names);
     return result;
 }
 
@@ -213,7 +212,7 @@ rendered render_group_by_clausule(rendering &r, node_group_by_clausule *node, vo
     if (!node->column_reference_list)
         return missing_part;
     r.out.append("GROUP BY ");
-    const std::size_t begin = r.out.size();
+    const output::place begin = r.out.here();
     rendered result = a_text;
     result.fail_with(r.child(node->column_reference_list));
     result.fail_with(r.spaced_child(begin, node->having_clausule));
@@ -258,7 +257,7 @@ rendered render_limit_clausule(rendering &r, node_limit_clausule *node, void *) 
 rendered render_distinct_select_list(rendering &r, node_distinct_select_list *node, void *) {
     if (!node->select_list)
         return missing_part;
-    const std::size_t begin = r.out.size();
+    const output::place begin = r.out.here();
     const rendered distinct = r.child(node->distinct);
     const rendered list = r.spaced_child(begin, node->select_list);
     rendered result{true, distinct.text || list.text, distinct.status};
@@ -277,16 +276,6 @@ rendered render_distinct(rendering &r, node_distinct *node, void *) {
 rendered render_select_list(rendering &r, node_select_list *node, void *data) {
     return render_list<&node_select_list::select_list, &node_select_list::select_item>(r, node,
                                                                                        data, comma);
-}
-
-rendered complete_select_item(rendering &r, node_identifier *identifier, rendered expression) {
-    const rendered name =
-        expression.text ? r.prefixed_child(" AS ", identifier) : r.child(identifier);
-    if (!expression.text)
-        r.out.append(name.text ? ".*" : "*");
-    rendered result{true, true, expression.status};
-    result.fail_with(name);
-    return result;
 }
 
 rendered render_select_item(rendering &r, node_select_item *node, void *) {

@@ -2,12 +2,49 @@
 
 #include <cstdlib>
 
-#include "quillet_builder_rendering.h"
+#include "quillet_builder.h"
+#include "quillet_default_rendering.h"
+#include "quillet_expressions.h"
+#include "quillet_operators.h"
+#include "quillet_types.h"
 
 using namespace quillet;
 
-// The default operations: quillet_<kind>_default_builder and
-// quillet_operator_<name>_default_builder.
+namespace {
+
+// A result-type rule for one or two operands, called with two.
+template <auto Rule> int result_type(int left, int right) {
+    if constexpr (requires { Rule(left, right); })
+        return Rule(left, right);
+    else
+        return Rule(left);
+}
+
+constexpr operator_rule operators[operator_count] = {
+#define all true
+#define none false
+#define OPERATOR(name, marked, needs, rule)                                                        \
+    {.text = text_template(marked),                                                                \
+     .needs_all = needs,                                                                           \
+     .type = result_type<quillet_get_result_type_##rule>},
+#include "quillet_operators.def"
+#undef all
+#undef none
+};
+
+constexpr cast_rule cast = {
+    [](rendering &r, const node_cast_expression &) { r.out.append("CAST("); },
+    [](rendering &r, node_cast_expression &node, output::place, rendered expression) {
+        r.out.append(" AS ");
+        r.out.append(quillet_type_to_string(node.type));
+        r.out.append(')');
+        node.sql_type = node.type;
+        return rendered{true, true, expression.status};
+    }};
+
+} // namespace
+
+// The operations: quillet_<kind>_default_builder and quillet_operator_<name>_default_builder.
 #define NODE(kind)                                                                                 \
     build_result *quillet_##kind##_default_builder(builder *self, node_##kind *node, void *data) { \
         return render_alone(render_##kind, self, node, data);                                      \
@@ -15,40 +52,37 @@ using namespace quillet;
 #include "quillet_nodes.def"
 #define OPERATOR(name, ...)                                                                        \
     build_result *quillet_operator_##name##_default_builder(builder *self, node_expression *node,  \
-                                                            void *) {                              \
-        return render_operator_alone(default_operators[operator_id_##name], self, node);           \
+                                                            void *data) {                          \
+        return render_operator_alone({&postgresql_dialect, operator_id_##name}, self, node, data); \
     }
 #include "quillet_operators.def"
 
-namespace {
-
-constexpr builder default_operations = {
-    .parent = nullptr,
+constinit const dialect quillet::postgresql_dialect = {
+    .operations =
+        {
+            .parent = nullptr,
 #define NODE(kind) .build_##kind = quillet_##kind##_default_builder,
 #include "quillet_nodes.def"
 #define OPERATOR(name, ...) .build_operator_##name = quillet_operator_##name##_default_builder,
 #include "quillet_operators.def"
 #define FUNCTION(name, rule) .build_function_##name = nullptr,
 #include "quillet_functions.def"
-};
-
-dialect default_dialect = {
-    .operations = &default_operations,
+        },
 #define NODE(kind) .render_##kind = render_##kind,
 #include "quillet_nodes.def"
-    .operators = default_operators,
+    .operators = operators,
     .functions = nullptr,
-    .cast = &default_cast,
+    .cast = &cast,
     .frame = nullptr,
-    .next = nullptr,
+    .refuse = nullptr,
 };
-
-} // namespace
-
-dialect &rendering::first_dialect = default_dialect;
 
 builder *quillet_default_builder_create(void) {
     auto *created = static_cast<builder *>(std::malloc(sizeof(builder)));
-    *created = default_operations;
+    *created = postgresql_dialect.operations;
     return created;
+}
+
+rendered quillet::render_cast_expression(rendering &r, node_cast_expression *node, void *) {
+    return render_cast(r, cast, node);
 }

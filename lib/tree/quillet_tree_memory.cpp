@@ -17,22 +17,9 @@
 #define QUILLET_WITHOUT_ARENA // every block is seen to come and go
 #endif
 
-int _quillet_has_arena = 0;
-char *_quillet_arena_next = nullptr;
-char *_quillet_arena_end = nullptr;
-
 namespace {
 
-// Chunk by chunk the arena doubles.
-struct chunk {
-    char *begin = nullptr;
-    std::size_t size = 0;
-};
-
-chunk chunks[QUILLET_ARENA_CHUNKS_MAXIMUM];
-std::size_t made_chunks = 0; // those with memory are among the first so many
-std::size_t used_chunks = 0;
-std::size_t used_size = 0;
+using chunk = quillet_tree_memory::quillet_arena_chunk;
 
 std::size_t usual_size(std::size_t index) {
     std::size_t size = QUILLET_ARENA_CHUNK_SIZE;
@@ -61,49 +48,53 @@ chunk new_chunk(std::size_t size) {
 
 // Begins the next chunk, which has room for at least so much.
 void begin_chunk(std::size_t room) {
-    chunk &next = chunks[used_chunks];
+    quillet_tree_memory &memory = _quillet_tree_memory;
+    chunk &next = memory.chunks[memory.used_chunks];
     if (next.size < room) {
         free_chunk(next);
-        next = new_chunk(std::max(room, usual_size(used_chunks)));
+        next = new_chunk(std::max(room, usual_size(memory.used_chunks)));
     }
-    made_chunks = std::max(made_chunks, ++used_chunks);
-    used_size += next.size;
-    _quillet_arena_next = next.begin;
-    _quillet_arena_end = next.begin + next.size;
+    memory.made_chunks = std::max(memory.made_chunks, ++memory.used_chunks);
+    memory.used_size += next.size;
+    memory.next = next.begin;
+    memory.end = next.begin + next.size;
 }
 
 } // namespace
 
 void *_quillet_tree_take_more(size_t size) {
-    if (!_quillet_has_arena)
+    if (!_quillet_tree_memory.has_arena)
         return std::malloc(size);
     begin_chunk(size);
     return _quillet_tree_take(size);
 }
 
-int _quillet_tree_is_too_large(void) { return used_size > QUILLET_TREE_SIZE_MAXIMUM; }
+int _quillet_tree_is_too_large(void) {
+    return _quillet_tree_memory.used_size > QUILLET_TREE_SIZE_MAXIMUM;
+}
 
 namespace quillet {
 
 tree_arena::tree_arena() {
 #ifndef QUILLET_WITHOUT_ARENA
-    _quillet_has_arena = 1;
+    _quillet_tree_memory.has_arena = 1;
     begin_chunk(1);
 #endif
 }
 
 // What a large statement took is kept for the next one, and freed then if that is a small one.
 tree_arena::~tree_arena() {
-    _quillet_has_arena = 0;
-    _quillet_arena_next = _quillet_arena_end = nullptr;
-    const std::size_t kept = std::clamp<std::size_t>(used_chunks, QUILLET_ARENA_KEPT_CHUNKS,
+    quillet_tree_memory &memory = _quillet_tree_memory;
+    memory.has_arena = 0;
+    memory.next = memory.end = nullptr;
+    const std::size_t kept = std::clamp<std::size_t>(memory.used_chunks, QUILLET_ARENA_KEPT_CHUNKS,
                                                      QUILLET_ARENA_KEPT_CHUNKS_MAXIMUM);
-    for (; made_chunks > kept; --made_chunks)
-        free_chunk(chunks[made_chunks - 1]);
-    for (std::size_t i = 0; i < used_chunks; ++i)
-        if (chunks[i].size > usual_size(i))
-            free_chunk(chunks[i]);
-    used_chunks = used_size = 0;
+    for (; memory.made_chunks > kept; --memory.made_chunks)
+        free_chunk(memory.chunks[memory.made_chunks - 1]);
+    for (std::size_t i = 0; i < memory.used_chunks; ++i)
+        if (memory.chunks[i].size > usual_size(i))
+            free_chunk(memory.chunks[i]);
+    memory.used_chunks = memory.used_size = 0;
 }
 
 } // namespace quillet

@@ -8,15 +8,27 @@
 #include <stddef.h>
 #include <stdlib.h>
 
+#include "quillet_limits.h"
+
 #ifdef __cplusplus
 extern "C" {
 #endif
 
-extern int _quillet_has_arena; /* whether there is an arena */
+/* The arena, chunk by chunk, each of twice the size of the last one. */
+struct quillet_tree_memory {
+    int has_arena;
+    char *next; /* the free part of the chunk in use; empty while there is no arena */
+    char *end;
+    struct quillet_arena_chunk {
+        char *begin; /* NULL for none */
+        size_t size;
+    } chunks[QUILLET_ARENA_CHUNKS_MAXIMUM];
+    size_t made_chunks; /* those with memory are among the first so many */
+    size_t used_chunks;
+    size_t used_size;
+};
 
-/* The free part of the arena's chunk in use; empty while there is no arena. */
-extern char *_quillet_arena_next;
-extern char *_quillet_arena_end;
+extern struct quillet_tree_memory _quillet_tree_memory;
 
 /* Returns room from a new chunk of the arena, or from malloc while there is no arena. */
 void *_quillet_tree_take_more(size_t size);
@@ -28,16 +40,16 @@ int _quillet_tree_is_too_large(void);
 static inline void *_quillet_tree_take(size_t size) {
     const size_t step = sizeof(void *);
     const size_t needed = (size + step - 1) / step * step;
-    if ((size_t)(_quillet_arena_end - _quillet_arena_next) < needed)
+    if ((size_t)(_quillet_tree_memory.end - _quillet_tree_memory.next) < needed)
         return _quillet_tree_take_more(needed);
-    void *room = _quillet_arena_next;
-    _quillet_arena_next += needed;
+    void *room = _quillet_tree_memory.next;
+    _quillet_tree_memory.next += needed;
     return room;
 }
 
 /* Frees a node's or a text's room; in an arena it goes with the arena. NULL is ignored. */
 static inline void _quillet_tree_give(void *room) {
-    if (!_quillet_has_arena)
+    if (!_quillet_tree_memory.has_arena)
         free(room);
 }
 

@@ -5,6 +5,7 @@
 
 #include "quillet_tree_memory.h"
 #include "quillet_tree_node_kinds.h"
+#include "quillet_walk.h"
 
 namespace quillet {
 namespace {
@@ -14,33 +15,23 @@ struct owned_node {
     node_kind kind;
 };
 
-constexpr std::size_t children_of_a_node = 16; // at most
-
-#define NODE(kind) constexpr std::size_t children_of_##kind = 0
-#define CHILD(kind, type, field) +1
-#define END(kind) ;
-#include "quillet_nodes.def"
-
-// Frees a tree with a stack of its own. The last child comes first, so that the stack stays short
-// in lists and chains, which grow at their first field.
-void free_tree(node_kind kind, void *node) {
-    if (!node || _quillet_has_arena)
+// Frees a tree. The last child comes first, so that the walk stays shallow in lists and chains,
+// which grow at their first field.
+void free_tree(node_kind kind, void *tree) {
+    if (!tree || _quillet_tree_memory.has_arena)
         return;
-    std::vector<owned_node> stack(4 * children_of_a_node);
-    std::size_t height = 0;
-    owned_node next = {node, kind};
-    for (;;) {
-        if (stack.size() - height < children_of_a_node)
-            stack.resize(2 * stack.size());
-        owned_node *top = &stack[height];
+    std::vector<owned_node> memory;
+    memory.reserve(64);
+    walk<owned_node> left(memory);
+    for (left.down({tree, kind}); left.is_down();) {
+        const owned_node next = left.up();
         switch (next.kind) {
 #define NODE(kind)                                                                                 \
     case kind_##kind: {                                                                            \
-        static_assert(children_of_##kind <= children_of_a_node);                                   \
         auto *own = static_cast<node_##kind *>(next.node);
 #define CHILD(kind, type, field)                                                                   \
     if (own->field)                                                                                \
-        *top++ = {own->field, kind_##type};
+        left.down({own->field, kind_##type});
 #define TEXT(kind, field) _quillet_tree_give(own->field);
 #define END(kind)                                                                                  \
     _quillet_tree_give(own);                                                                       \
@@ -49,10 +40,6 @@ void free_tree(node_kind kind, void *node) {
 #include "quillet_nodes.def"
         case node_kind_count: break;
         }
-        if (top == stack.data())
-            return;
-        next = *--top;
-        height = static_cast<std::size_t>(top - stack.data());
     }
 }
 

@@ -4,43 +4,27 @@
 #include <string_view>
 
 #include "quillet_letter_case.h"
+#include "quillet_type_sets.h"
 
 namespace quillet {
 namespace {
 
-enum category : unsigned {
-    in_none = 0,
-    in_datetime = 1,
-    in_interval = 2,
-    in_integer = 4,
-    in_float = 8
-};
-
-struct sql_type {
-    const char *printed;
-    unsigned categories;
-};
-
-constexpr sql_type types[] = {
-#define TYPE(name, code, printed, categories, ...) {printed, categories},
+constexpr const char *printed_names[] = {
+#define TYPE(name, code, printed, ...) printed,
 #include "quillet_types.def"
 };
 
-static_assert(std::size(types) == 19 && QUILLET_TYPE_TIMESTAMPZ == 18);
+static_assert(std::size(printed_names) == 19 && QUILLET_TYPE_TIMESTAMPZ == 18);
 
 struct type_spelling {
     int code;
-    std::string_view spellings[2 + 1]; // ends in an empty one
+    std::string_view spellings[3]; // as many as there are, the rest is empty
 };
 
 constexpr type_spelling type_spellings[] = {
 #define TYPE(name, code, printed, categories, ...) {code, {__VA_ARGS__}},
 #include "quillet_types.def"
 };
-
-constexpr unsigned categories_of(int type) {
-    return type >= 0 && type < QUILLET_TYPE_COUNT ? types[type].categories : in_none;
-}
 
 // The common rule of + and -, which differ in what two dates or times give.
 int sum_or_difference(int left, int right, int of_datetimes) {
@@ -95,20 +79,14 @@ int quillet_string_to_type(const char *type) {
 }
 
 const char *quillet_type_to_string(int type) {
-    return type >= 0 && type < QUILLET_TYPE_COUNT ? types[type].printed : "";
+    return type >= 0 && type < QUILLET_TYPE_COUNT ? printed_names[type] : "";
 }
 
-int quillet_is_datetime(int type) { return (categories_of(type) & in_datetime) != 0; }
-
-int quillet_is_datetime_not_interval(int type) {
-    return (categories_of(type) & (in_datetime | in_interval)) == in_datetime;
-}
-
-int quillet_is_integer(int type) { return (categories_of(type) & in_integer) != 0; }
-
-int quillet_is_float(int type) { return (categories_of(type) & in_float) != 0; }
-
-int quillet_is_numeric(int type) { return (categories_of(type) & (in_integer | in_float)) != 0; }
+int quillet_is_datetime(int type) { return datetime_types.has(type); }
+int quillet_is_datetime_not_interval(int type) { return datetime_types_not_interval.has(type); }
+int quillet_is_integer(int type) { return integer_types.has(type); }
+int quillet_is_float(int type) { return float_types.has(type); }
+int quillet_is_numeric(int type) { return (integer_types | float_types).has(type); }
 
 int quillet_get_result_type_add(int left, int right) {
     return sum_or_difference(left, right, QUILLET_TYPE_TIMESTAMP);

@@ -9,6 +9,7 @@
 #include "quillet_limits.h"
 #include "quillet_text_buffer.h"
 #include "quillet_tree_node_kinds.h"
+#include "quillet_walk.h"
 
 using namespace quillet;
 
@@ -35,18 +36,15 @@ void append_number(text_buffer &out, int number) {
     out.append({digits, static_cast<std::size_t>(end - digits)});
 }
 
-void append_line(text_buffer &out, std::intptr_t indentation, std::string_view label, int number) {
-    if (indentation > 0)
-        std::memset(out.grow(static_cast<std::size_t>(indentation)), ' ',
-                    static_cast<std::size_t>(indentation));
-    out.append(label);
-    out.append(" [");
-    append_number(out, number);
-    out.append("]\n");
+void append_blanks(text_buffer &out, std::intptr_t count) {
+    if (count > 0)
+        std::memset(out.grow(static_cast<std::size_t>(count)), ' ',
+                    static_cast<std::size_t>(count));
 }
 
-constexpr std::string_view labels[] = {
-#define NODE(kind) #kind,
+// The line of a node, but for its indentation; the number is a status, of which there is none.
+constexpr std::string_view lines[] = {
+#define NODE(kind) #kind " [0]\n",
 #include "quillet_nodes.def"
 };
 
@@ -83,23 +81,25 @@ void append_foreign(text_buffer &out, build_result *result) {
 // Shows a tree. Texts are not shown; codes stand on lines of their own, at the margin.
 build_result *view(builder *self, node_kind kind, const void *node, void *data) {
     text_buffer out;
-    std::vector<level> levels;
+    std::vector<level> memory;
+    walk<level, 0> levels(memory);
     const auto show = [&](node_kind shown, const void *tree, std::intptr_t indentation) {
-        append_line(out, indentation, labels[shown], 0);
-        levels.push_back({tree, fields_of[shown], indentation});
+        append_blanks(out, indentation);
+        out.append(lines[shown]);
+        levels.down({tree, fields_of[shown], indentation});
     };
 
     show(kind, node, reinterpret_cast<std::intptr_t>(data));
-    while (!levels.empty()) {
+    while (levels.is_down()) {
         if (out.size() > QUILLET_TEXT_SIZE_MAXIMUM) {
             build_result *refused = quillet_build_result_create();
             refused->build_result = QUILLET_BUILD_CANNOT_RENDER;
             return refused;
         }
-        level &current = levels.back();
+        level &current = levels.last();
         const node_field &field = *current.next;
         if (field.role == field_role::end) {
-            levels.pop_back();
+            levels.up();
             continue;
         }
         ++current.next;
@@ -128,7 +128,11 @@ build_result *view(builder *self, node_kind kind, const void *node, void *data) 
 
 char *quillet_print(int indentation, const char *label, int number) {
     text_buffer out;
-    append_line(out, indentation, label, number);
+    append_blanks(out, indentation);
+    out.append(label);
+    out.append(" [");
+    append_number(out, number);
+    out.append("]\n");
     return out.release();
 }
 

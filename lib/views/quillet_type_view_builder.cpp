@@ -1,6 +1,7 @@
 #include "quillet_type_view_builder.h"
 
-#include "quillet_builder_rendering.h"
+#include "quillet_expressions.h"
+#include "quillet_type_view_dialect.h"
 #include "quillet_types.h"
 
 using namespace quillet;
@@ -32,33 +33,23 @@ std::string_view type_before_expression(const node_expression &node) {
 constexpr expression_frame type_frame = {type_before_expression, " ) "};
 
 rendered render_expression_with_type(rendering &r, node_expression *node, void *data) {
-    const builder *parent = r.self->parent;
-    const auto inherited =
-        parent && parent->build_expression ? parent->build_expression : r.self->build_expression;
-    if (inherited == quillet_expression_default_builder)
-        return render_expression_framed(r, node, &type_frame);
+    constexpr auto slot = &builder::build_expression;
+    const auto deferred_to = inherited(*r.self, slot);
+    if (dialect_of(slot, deferred_to))
+        return render_framed_expression(r, node, &type_frame);
 
-    const std::size_t beginning = r.reserve_insertion();
-    rendered result = r.take(inherited(r.self, node, data));
-    r.insert(beginning, type_before_expression(*node));
+    const output::place begin = r.out.here();
+    const output::gap beginning = r.out.leave_gap();
+    rendered result = deferred_to ? r.take(deferred_to(r.self, node, data)) : absent;
+    if (!result.record) {
+        r.out.cut(begin);
+        return result;
+    }
+    r.out.fill(beginning, type_before_expression(*node));
     r.out.append(type_frame.end);
     result.text = true;
     return result;
 }
-
-const builder operations = [] {
-    builder own{};
-    own.build_expression = quillet_expression_type_view_builder;
-    return own;
-}();
-
-dialect type_view = [] {
-    dialect own{};
-    own.operations = &operations;
-    own.render_expression = render_expression_with_type;
-    own.frame = &type_frame;
-    return own;
-}();
 
 } // namespace
 
@@ -67,8 +58,15 @@ build_result *quillet_expression_type_view_builder(builder *self, node_expressio
     return render_alone(render_expression_with_type, self, node, data);
 }
 
+constinit const dialect quillet::type_view_dialect = [] {
+    dialect own{};
+    own.operations.build_expression = quillet_expression_type_view_builder;
+    own.render_expression = render_expression_with_type;
+    own.frame = &type_frame;
+    return own;
+}();
+
 builder *quillet_type_view_builder_create(void) {
-    rendering::know(type_view);
     builder *created = quillet_default_builder_create();
     created->parent = quillet_default_builder_create();
     created->build_expression = quillet_expression_type_view_builder;

@@ -1,10 +1,10 @@
 /*
- * Rendering of list chains, whatever their length, with a loop. Internal.
+ * Rendering of list chains, whatever their length. Internal.
  */
-#ifndef QUILLET_BUILDER_LISTS_H
-#define QUILLET_BUILDER_LISTS_H
+#ifndef QUILLET_LISTS_H
+#define QUILLET_LISTS_H
 
-#include "quillet_builder_rendering.h"
+#include "quillet_rendering.h"
 
 namespace quillet {
 
@@ -22,9 +22,9 @@ struct no_data {
 template <auto Earlier, auto Item, class Data = no_data, class List>
 rendered render_list(rendering &r, List *head, void *data, std::string_view separator) {
     constexpr auto slot = slot_of<List>::operation;
-    const bool own = rendering::dialect_of(slot, r.self->*slot) != nullptr;
-    const std::size_t base = r.links.size();
-    const std::size_t begin = r.out.size();
+    const bool own = dialect_of(slot, r.self->*slot) != nullptr;
+    walk<list_step> steps = r.list_walk();
+    const output::place begin = r.out.here();
 
     // Down to the first item, or to the first list node that is not ours to render.
     List *list = head;
@@ -34,7 +34,7 @@ rendered render_list(rendering &r, List *head, void *data, std::string_view sepa
             result = missing_part;
             break;
         }
-        r.links.push_back({list, data});
+        steps.down({list, data});
         List *earlier = list->*Earlier;
         data = Data::earlier(data);
         if (!earlier)
@@ -47,19 +47,16 @@ rendered render_list(rendering &r, List *head, void *data, std::string_view sepa
     }
 
     // And back up to the last item.
-    while (r.links.size() > base) {
-        const rendering::link link = r.links.back();
-        r.links.pop_back();
-        if (r.links.size() > base + fetched_ahead)
-            fetch(r.links[r.links.size() - fetched_ahead].node);
-        list = static_cast<List *>(link.node);
+    while (steps.is_down()) {
+        const list_step step = steps.up();
+        list = static_cast<List *>(step.node);
         rendered item;
         if (separator == blank) {
             item = r.spaced_child(begin, list->*Item);
         } else {
             if (result.text)
                 r.out.append(separator);
-            item = r.child(list->*Item, Data::item(link.data));
+            item = r.child(list->*Item, Data::item(step.data));
         }
         if constexpr (requires { list->count; })
             list->count = result.text ? (list->*Earlier)->count + 1 : 1;

@@ -1,0 +1,38 @@
+// All state of the library, one for the process; nothing else of it keeps any, but for the scanners
+// that flex generates (yy_quillet_*, and what was read on) and the builders' records in their own
+// units, which a host may change. Each piece is declared in the header of the unit that owns it.
+
+#include "quillet_globals.h"
+
+#include "quillet_date_format_parser.h"
+#include "quillet_mysql_errors.h"
+#include "quillet_parser_tools.h"
+#include "quillet_rendering.h"
+#include "quillet_tree_memory.h"
+
+// Owned by quillet.cpp: the registry, the last translation, our own builders.
+quillet_builder_info *quillet_builders[4] = {};
+const char *const error_descriptions[4] = {"", "no such builder", "invalid query",
+                                           "can not translate"};
+int32_t error_code = QUILLET_SUCCESS;
+int32_t last_builder_id = 0;
+builder *kept_builders[4] = {};
+
+// Owned by the parser: the tree of the last parse; during a parse its text, and how deep it is in
+// comments, which the next one goes on with.
+node_main *root = nullptr;
+parse_data *quillet_query = nullptr;
+int quillet_comment_count = 0;
+
+// Owned by the date-format parser, during a parse alone.
+parse_data *quillet_date_format = nullptr;
+char *quillet_format_string = nullptr;
+
+// Owned by the builder mysql: the reason of its last refusal. Nothing resets it.
+int32_t mysql_error_code = 0;
+
+// Owned by the tree's memory: the arena of the translation under way, and what is kept of it.
+quillet_tree_memory _quillet_tree_memory = {};
+
+// Owned by the renderings: the scratch that one leaves to the next, and the bound of the stack.
+constinit quillet::rendering_memory quillet::kept_rendering_memory;

@@ -1,0 +1,88 @@
+/*
+ * What a dialect is: the operations of one builder of this library beside what renders for them.
+ * Internal.
+ */
+#ifndef QUILLET_DIALECT_H
+#define QUILLET_DIALECT_H
+
+#include <cstdint>
+#include <iterator>
+
+#include "quillet_builder.h"
+#include "quillet_rules.h"
+
+namespace quillet {
+
+struct dialect {
+    builder operations; // what it puts into the slots; NULL where it puts nothing
+#define NODE(kind) renderer<node_##kind> render_##kind;
+#include "quillet_nodes.def"
+    const operator_rule *operators; // by index, for the slots that it fills
+    const function_rule *functions; // likewise
+    const cast_rule *cast;
+    const expression_frame *frame;       // NULL for none
+    void (*refuse)(std::int32_t reason); // keeps the reason of a refusal; NULL: it refuses nothing
+};
+
+// The dialects, the default one first. They are listed where all of them are known, at the top of
+// the library.
+inline constexpr int dialect_count = 3;
+extern const dialect *const dialects[dialect_count];
+
+inline const dialect &default_dialect() { return *dialects[0]; }
+
+// The slots by node type, and those of operators and functions by index.
+
+template <class Node> using operation = build_result *(*)(builder *self, Node *node, void *data);
+
+template <class Node> struct slot_of;
+#define NODE(kind)                                                                                 \
+    template <> struct slot_of<node_##kind> {                                                      \
+        static constexpr auto operation = &builder::build_##kind;                                  \
+        static constexpr auto renderer = &dialect::render_##kind;                                  \
+    };
+#include "quillet_nodes.def"
+
+inline constexpr operation<node_expression> builder::*operator_slots[] = {
+#define OPERATOR(name, ...) &builder::build_operator_##name,
+#include "quillet_operators.def"
+};
+
+inline constexpr operation<node_function_call> builder::*function_slots[] = {
+#define FUNCTION(name, rule) &builder::build_function_##name,
+#include "quillet_functions.def"
+};
+
+enum operator_id {
+#define OPERATOR(name, ...) operator_id_##name,
+#include "quillet_operators.def"
+    operator_count
+};
+
+enum function_id {
+#define FUNCTION(name, rule) function_id_##name,
+#include "quillet_functions.def"
+    function_count
+};
+
+static_assert(operator_count == 45 && function_count == 93);
+static_assert(sizeof(builder) == sizeof(void *) * (1 + 193));
+
+// The dialect to which an operation in a slot belongs; NULL for a host's own and for an empty slot.
+template <class Operation> const dialect *dialect_of(Operation builder::*slot, Operation found) {
+    for (const dialect *known : dialects)
+        if (found && known->operations.*slot == found)
+            return known;
+    return nullptr;
+}
+
+// The operation that a builder's own one in a slot may defer to: its parent's, or without one what
+// stands in its own slot.
+template <class Operation> Operation inherited(const builder &self, Operation builder::*slot) {
+    const builder *parent = self.parent;
+    return parent && parent->*slot ? parent->*slot : self.*slot;
+}
+
+} // namespace quillet
+
+#endif

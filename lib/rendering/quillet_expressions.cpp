@@ -1,0 +1,181 @@
+#include "quillet_expressions.h"
+
+#include "quillet_operators.h"
+
+namespace quillet {
+
+namespace {
+
+using step = expression_step;
+
+// Renders the constant, column, call, cast or CASE that is the whole of an expression, and types
+// it. The order of preference is not the one of rendering; a column stands even without a text, and
+// the types of columns and of a CASE are not known.
+first_with_text render_leaf(rendering &r, node_expression *node) {
+    enum preference { constant, call, column, cast, case_ };
+    const std::int32_t *type = nullptr;
+    first_with_text leaf(r);
+    if (leaf.add(node->function_call, call))
+        type = &node->function_call->sql_type;
+    if (leaf.add(node->column_reference, column, true))
+        type = nullptr;
+    if (leaf.add(node->const_generic, constant))
+        type = &node->const_generic->sql_type;
+    if (leaf.add(node->cast_expression, cast))
+        type = &node->cast_expression->sql_type;
+    leaf.add(node->case_expression, case_);
+    if (type)
+        node->sql_type = *type;
+    return leaf;
+}
+
+bool is_only_a_cast(const node_expression &node) {
+    return node.cast_expression && node.cast_expression->expression && !node.function_call &&
+           !node.column_reference && !node.const_generic && !node.case_expression &&
+           !node.expression_1 && !node.expression_2 && !node.operator_;
+}
+
+// Begins an expression: renders it whole and stores its outcome, or writes what stands before its
+// first operand, says in begun how it goes on, and returns that operand.
+node_expression *begin_expression(rendering &r, step &begun, rendered &outcome) {
+    node_expression *node = begun.node;
+    begun.begin = r.out.here();
+    if (is_only_a_cast(*node)) {
+        constexpr auto slot = &builder::build_cast_expression;
+        if (const dialect *home = dialect_of(slot, r.self->*slot)) {
+            begun.kind = step::type_cast;
+            begun.use.home = home;
+            home->cast->begin(r, *node->cast_expression);
+            return node->cast_expression->expression;
+        }
+    }
+
+    const first_with_text leaf = render_leaf(r, node);
+    outcome = {true, leaf.has_text(), leaf.status()};
+    if (leaf.is_decided())
+        return nullptr;
+
+    if (!node->operator_) {
+        if (node->expression_2)
+            return nullptr;
+        if (!node->expression_1) {
+            if (!outcome.status)
+                outcome = missing_part;
+            return nullptr;
+        }
+        r.out.append('(');
+        begun.kind = step::parentheses;
+        begun.status = outcome.status;
+        return node->expression_1;
+    }
+
+    const int index = operator_index(node->operator_);
+    if (index == no_operator)
+        return nullptr;
+    const auto slot = operator_slots[index];
+    const auto own = r.self->*slot;
+    if (const dialect *home = dialect_of(slot, own)) {
+        begun.kind = step::operation;
+        begun.use = {home, index};
+        if (begins_with_operand(begun.use, *node)) {
+            begin_operator(r, begun.use);
+            return node->expression_1;
+        }
+        outcome = render_operator(r, begun.use, node, nullptr);
+    } else {
+        outcome = own ? r.take(own(r.self, node, nullptr)) : absent;
+    }
+    return nullptr;
+}
+
+// Ends an expression whose first operand has the given outcome.
+rendered end_expression(rendering &r, const step &begun, const rendered &first) {
+    node_expression *node = begun.node;
+    switch (begun.kind) {
+    case step::operation: return end_operator(r, begun.use, node, nullptr, begun.begin, first);
+    case step::type_cast: {
+        const cast_rule &rule = *begun.use.home->cast;
+        const rendered result = rule.end(r, *node->cast_expression, begun.begin, first);
+        if (result.text)
+            node->sql_type = node->cast_expression->sql_type;
+        return result.text || result.status ? result : missing_part;
+    }
+    case step::parentheses:
+        r.out.append(')');
+        node->sql_type = node->expression_1->sql_type;
+        break;
+    }
+    rendered result{true, true, begun.status};
+    result.fail_with(first);
+    return result;
+}
+
+// Puts round an expression what belongs there.
+void close_frame(rendering &r, const step &begun, rendered &result) {
+    if (!result.record)
+        return;
+    r.out.fill(begun.frame_gap, begun.frame->begin(*begun.node));
+    r.out.append(begun.frame->end);
+    result.text = true;
+}
+
+// How the operands of expressions are rendered: in place, with what goes round them, or by calls.
+struct operand_manner {
+    bool in_place;
+    const expression_frame *frame;
+};
+
+operand_manner manner_of_operands(const builder &self) {
+    constexpr auto slot = &builder::build_expression;
+    const dialect *home = dialect_of(slot, self.*slot);
+    if (!home)
+        return {false, nullptr};
+    // A frame goes round what the parent's operation renders, which may be a host's.
+    const bool in_place = !home->frame || dialect_of(slot, inherited(self, slot));
+    return {in_place, home->frame};
+}
+
+} // namespace
+
+rendered render_framed_expression(rendering &r, node_expression *node,
+                                  const expression_frame *frame) {
+    if (r.is_exhausted())
+        return refused_part;
+    const operand_manner manner = manner_of_operands(*r.self);
+    walk<step> steps = r.expression_walk();
+    rendered result;
+    for (;;) {
+        step next{.node = node, .frame = frame};
+        if (frame)
+            next.frame_gap = r.out.leave_gap();
+        node = begin_expression(r, next, result);
+        if (!node) {
+            if (frame)
+                close_frame(r, next, result);
+            break;
+        }
+        steps.down(next);
+        if (!manner.in_place) {
+            result = r.child(node);
+            break;
+        }
+        frame = manner.frame;
+    }
+    while (steps.is_down()) {
+        const step last = steps.up();
+        result = end_expression(r, last, result);
+        if (last.frame)
+            close_frame(r, last, result);
+    }
+    return result;
+}
+
+rendered render_cast(rendering &r, const cast_rule &rule, node_cast_expression *node) {
+    if (!node->expression)
+        return missing_part;
+    const output::place begin = r.out.here();
+    rule.begin(r, *node);
+    return rule.end(r, *node, begin, r.child(node->expression));
+}
+
+} // namespace quillet

@@ -1,0 +1,244 @@
+/*
+ * How the builders of this library render. Internal.
+ *
+ * The public operations of a builder return a text each. Were a tree rendered through them alone,
+ * every text would be copied once per level. So every operation of this library has a renderer
+ * behind it, which appends to the one growing text of a rendering; the operation itself is an
+ * adapter that starts a rendering of its own (render_alone). A child whose slot still holds an
+ * operation of this library is rendered by that operation's renderer in place, any other operation
+ * is called and its text appended: what a host puts into a slot holds at every depth.
+ */
+#ifndef QUILLET_RENDERING_H
+#define QUILLET_RENDERING_H
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "quillet_dialect.h"
+#include "quillet_limits.h"
+#include "quillet_output.h"
+#include "quillet_rules.h"
+#include "quillet_walk.h"
+
+namespace quillet {
+
+// Part of a list whose items before it are being rendered.
+struct list_step {
+    void *node;
+    void *data;
+};
+
+// An application of an operator by a dialect's rule.
+struct operator_use {
+    const dialect *home = nullptr;
+    int index = 0;
+
+    const operator_rule &rule() const { return home->operators[index]; }
+    const operator_rule &default_rule() const { return default_dialect().operators[index]; }
+};
+
+// An expression whose first operand is being rendered.
+struct expression_step {
+    enum : std::uint8_t { parentheses, operation, type_cast } kind = parentheses;
+    std::int32_t status = 0; // of what was tried on the node before
+    node_expression *node = nullptr;
+    operator_use use{};                      // of an operation; of a cast the dialect alone
+    const expression_frame *frame = nullptr; // NULL for none
+    output::gap frame_gap{};
+    output::place begin{}; // of the text, after the frame's beginning
+};
+
+// What a rendering keeps for the next one, and what a rendering inside of another one shares with
+// it.
+struct rendering_memory {
+    std::vector<list_step> lists;
+    std::vector<expression_step> expressions;
+    output::memory gaps;
+    stack_bound stack;
+};
+
+extern rendering_memory kept_rendering_memory;
+
+class rendering {
+    rendering_memory memory_; // what the gaps of the text below live in, so it comes first
+
+public:
+    explicit rendering(builder *renderer);
+    ~rendering();
+    rendering(const rendering &) = delete;
+    rendering &operator=(const rendering &) = delete;
+
+    builder *const self; // the builder whose slots render the children
+    output out;
+
+    // Scratch for the walks down a list and a chain of expressions.
+    walk<list_step> list_walk() { return walk<list_step>(memory_.lists); }
+    walk<expression_step> expression_walk() { return walk<expression_step>(memory_.expressions); }
+
+    // Renders a child at the end of the text. NULL, or an empty slot, gives nothing.
+    template <class Node> rendered child(Node *node, void *data = nullptr) {
+        return node ? by(self->*slot_of<Node>::operation, node, data) : absent;
+    }
+
+    // Renders a node by the operation that the builder's own one in its slot defers to.
+    template <class Node> rendered defer(Node *node, void *data) {
+        constexpr auto slot = slot_of<Node>::operation;
+        const auto deferred_to = inherited(*self, slot);
+        if (deferred_to && dialect_of(slot, deferred_to))
+            return (default_dialect().*slot_of<Node>::renderer)(*this, node, data);
+        return by(deferred_to, node, data);
+    }
+
+    // Renders a node by a dialect's rule for its kind.
+    template <class Node>
+    rendered by_rule(const kind_rule<Node> &rule, const dialect &home, Node *node, void *data) {
+        if (rule.own)
+            return rule.own(*this, node, data);
+        if (!rule.refusal || (rule.is_refused && !rule.is_refused(*node)))
+            return defer(node, data);
+        home.refuse(rule.refusal);
+        return refused_part;
+    }
+
+    // Renders a child after what was written since a place, with a blank between the two if neither
+    // is empty.
+    template <class Node> rendered spaced_child(output::place start, Node *node) {
+        if (!node)
+            return absent;
+        const output::place begin = out.here();
+        if (!out.has_grown_since(start))
+            return child(node);
+        out.append(' ');
+        const output::place after_blank = out.here();
+        const rendered result = child(node);
+        if (!out.has_grown_since(after_blank))
+            out.cut(begin);
+        return result;
+    }
+
+    // Renders a child between two fixed texts, which stand there even if the child gives no text.
+    template <class Node>
+    rendered enclosed_child(std::string_view before, Node *node, std::string_view after = {}) {
+        out.append(before);
+        const rendered result = child(node);
+        out.append(after);
+        return {true, true, result.status};
+    }
+
+    // Renders a child after a fixed text that goes if the child gives no text.
+    template <class Node> rendered prefixed_child(std::string_view before, Node *node) {
+        if (!node)
+            return absent;
+        const output::place begin = out.here();
+        out.append(before);
+        const rendered result = child(node);
+        if (!result.text)
+            out.cut(begin);
+        return result;
+    }
+
+    // Renders a child and takes its text out again.
+    template <class Node> rendered taken_child(Node *node, std::string &text) {
+        const output::place begin = out.here();
+        const rendered result = child(node);
+        text = out.settle(begin);
+        out.cut(begin);
+        return result;
+    }
+
+    // Appends the text of an operation's result and frees both.
+    rendered take(build_result *result);
+
+    // Whether a limit has been reached. Nothing more is rendered then, and the rendering fails.
+    [[gnu::always_inline]] bool is_exhausted() {
+        if (kept_rendering_memory.stack.is_reached())
+            exhausted_ = true;
+        return exhausted_;
+    }
+
+    // Whether more characters fit in. If they do not, a limit has been reached.
+    bool has_room_for(std::size_t more) {
+        if (out.size() + more > QUILLET_TEXT_SIZE_MAXIMUM)
+            exhausted_ = true;
+        return !exhausted_;
+    }
+
+private:
+    // Renders a node by an operation that belongs into its slot.
+    template <class Node> rendered by(operation<Node> found, Node *node, void *data) {
+        if (const dialect *home = dialect_of(slot_of<Node>::operation, found))
+            return (home->*slot_of<Node>::renderer)(*this, node, data);
+        return found ? take(found(self, node, data)) : absent;
+    }
+
+    bool is_outermost_;
+    bool exhausted_ = false;
+};
+
+// One of several children whose texts exclude each other: the one of the lowest rank that has a
+// text, of equal ranks the first. All of them are rendered.
+class first_with_text {
+public:
+    explicit first_with_text(rendering &r) : r_(r) {}
+
+    // Renders a child. One that stands without a text, too, takes its place all the same. Returns
+    // whether it is the one so far.
+    template <class Node> bool add(Node *node, int rank = 0, bool stands_without_text = false) {
+        if (!node)
+            return false;
+        const output::place begin = r_.out.here();
+        return take(begin, r_.child(node), rank, stands_without_text);
+    }
+
+    bool is_decided() const { return is_decided_; }
+    bool has_text() const { return has_text_; }
+    std::int32_t status() const { return status_.status; } // of all that were rendered
+
+private:
+    bool take(output::place begin, const rendered &result, int rank, bool stands_without_text) {
+        status_.fail_with(result);
+        if (!result.text && !stands_without_text)
+            return false;
+        if (is_decided_ && !is_preferred(begin, rank))
+            return false;
+        if (!is_decided_)
+            begin_ = begin;
+        is_decided_ = true;
+        has_text_ = result.text;
+        rank_ = rank;
+        return true;
+    }
+
+    // Keeps the text of one of two children, and says whether it is that of the later one.
+    bool is_preferred(output::place begin, int rank);
+
+    rendering &r_;
+    output::place begin_{};
+    rendered status_{};
+    int rank_ = 0;
+    bool is_decided_ = false;
+    bool has_text_ = false;
+};
+
+// Renders what follows the expression of a select item: its alias, or the name and star of an item
+// whose expression gave no text.
+rendered complete_select_item(rendering &r, node_identifier *identifier,
+                              const rendered &expression);
+
+// The outcome of a rendering as a public operation returns it.
+build_result *finished(rendering &r, rendered result);
+
+// The body of a public operation: a rendering of one node by what is given.
+template <class Node, class Render>
+build_result *render_alone(Render render, builder *self, Node *node, void *data) {
+    rendering alone(self);
+    if (alone.is_exhausted())
+        return finished(alone, refused_part);
+    return finished(alone, render(alone, node, data));
+}
+
+} // namespace quillet
+
+#endif
