@@ -14,7 +14,7 @@
 quillet_builder_info *quillet_builders[4] = {};
 const char *const error_descriptions[4] = {"", "no such builder", "invalid query",
                                            "can not translate"};
-int32_t error_code = QUILLET_SUCCESS;
+int32_t error_code = 0;
 int32_t last_builder_id = 0;
 builder *kept_builders[4] = {};
 

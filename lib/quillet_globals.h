@@ -8,7 +8,7 @@
 
 #include <stdint.h>
 
-#include "quillet.h"
+#include "quillet_builder_info.h"
 #include "quillet_parse_tree.h"
 
 #ifdef __cplusplus

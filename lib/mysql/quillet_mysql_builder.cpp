@@ -1,6 +1,7 @@
 #include "quillet_mysql_builder.h"
 
 #include <array>
+#include <iterator>
 
 #include "quillet_function_rules.h"
 #include "quillet_mysql_arithmetic.h"
@@ -19,6 +20,14 @@ quillet_builder_info quillet_mysql_builder_info = {
 };
 
 quillet_builder_info *quillet_mysql_builder_get_info(void) { return &quillet_mysql_builder_info; }
+
+int32_t quillet_mysql_get_error_code(void) { return mysql_error_code; }
+
+const char *quillet_mysql_get_error_description(void) {
+    const std::int64_t index = -static_cast<std::int64_t>(mysql_error_code);
+    const bool known = index >= 0 && index < std::int64_t{std::size(mysql_error_descriptions)};
+    return known ? mysql_error_descriptions[index] : "";
+}
 
 // The tables.
 

@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "quillet_letter_case.h"
-#include "quillet_type_sets.h"
 
 namespace quillet {
 namespace {
@@ -81,12 +80,6 @@ int quillet_string_to_type(const char *type) {
 const char *quillet_type_to_string(int type) {
     return type >= 0 && type < QUILLET_TYPE_COUNT ? printed_names[type] : "";
 }
-
-int quillet_is_datetime(int type) { return datetime_types.has(type); }
-int quillet_is_datetime_not_interval(int type) { return datetime_types_not_interval.has(type); }
-int quillet_is_integer(int type) { return integer_types.has(type); }
-int quillet_is_float(int type) { return float_types.has(type); }
-int quillet_is_numeric(int type) { return (integer_types | float_types).has(type); }
 
 int quillet_get_result_type_add(int left, int right) {
     return sum_or_difference(left, right, QUILLET_TYPE_TIMESTAMP);
