@@ -827,6 +827,36 @@ template <class Replace> int calls_with(Replace replace) {
     return calls;
 }
 
+// A builder that holds next to nothing, so that nothing is written at all.
+
+template <class Node> build_result *empty_record(builder *, Node *, void *) {
+    return quillet_build_result_create();
+}
+
+template <class Node> build_result *empty_text(builder *, Node *, void *) {
+    build_result *result = quillet_build_result_create();
+    result->query = copy("");
+    return result;
+}
+
+TEST(ZeroedBuilder, RendersExpressionsWithoutText) {
+    builder self{};
+    const auto render = [&] {
+        const owned<node_expression> both(integer("1"));
+        both->column_reference = reference("a");
+        return taken(quillet_expression_default_builder(&self, both.get(), nullptr));
+    };
+    EXPECT_EQ(render(), textless()); // the column stands all the same
+    self.build_const_generic = empty_record<node_const_generic>;
+    EXPECT_EQ(render(), textless());
+    self.build_column_reference = empty_text<node_column_reference>;
+    EXPECT_EQ(render(), gives(""));
+    self.build_const_generic = empty_text<node_const_generic>;
+    EXPECT_EQ(render(), gives(""));
+    self.build_column_reference = nullptr;
+    EXPECT_EQ(render(), gives(""));
+}
+
 TEST(ReplacedSlots, AreUsedForEveryKind){
 #define NODE(kind)                                                                                 \
     {                                                                                              \

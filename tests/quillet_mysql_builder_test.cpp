@@ -253,6 +253,21 @@ TEST(MysqlCast, KeepsATextOfTheSameType) {
         EXPECT_EQ(cast("'x'", type, type), "'x'") << type;
 }
 
+// What casts and typed literals hold counts as of type -1.
+TEST(MysqlCast, KeepsWhatIsOfNoTypeAlready) {
+    const owned<builder> self(quillet_mysql_builder_create());
+    EXPECT_EQ(any_tree(make(node_cast_expression{.expression = column("a"), .type = -1}))
+                  .render(self.get()),
+              gives("a"));
+    EXPECT_EQ(any_tree(make(node_expression{.cast_expression = make(node_cast_expression{
+                                                .expression = column("a"), .type = -1})}))
+                  .render(self.get()),
+              gives("a"));
+    EXPECT_EQ(any_tree(typed(-1, "'a'")).render(self.get()), gives("'a'"));
+    EXPECT_EQ(any_tree(typed(-2, "'a'")).render(self.get()), gives("CAST('a' AS )"));
+    EXPECT_EQ(cast("a", 3, -1), "CAST(a AS )");
+}
+
 TEST(MysqlCast, CastsFromEveryTypeToEveryOther) {
     const std::map<int, std::string> names = {
         {QUILLET_TYPE_INT8, "SIGNED INTEGER"},
@@ -615,6 +630,97 @@ void check(builder *self, const std::vector<tree_case> &cases) {
         EXPECT_EQ(tested.tree.render(self), tested.expected) << tested.name;
         EXPECT_EQ(mysql_error_code, tested.reason) << tested.name;
     }
+}
+
+// What an operation does not decide goes to the parent's one, with the same builder, node and data.
+
+struct deferral {
+    const builder *self = nullptr;
+    const void *node = nullptr;
+    const void *data = nullptr;
+    int count = 0;
+};
+
+deferral deferred;
+
+template <class Node> build_result *of_a_host(builder *self, Node *node, void *data) {
+    deferred = {self, node, data, deferred.count + 1};
+    build_result *result = quillet_build_result_create();
+    result->query = copy("the host's");
+    result->build_result = -42;
+    return result;
+}
+
+TEST_F(Mysql, DefersToAnOperationOfTheParent) {
+    const owned<builder> self(quillet_mysql_builder_create());
+    builder &parent = *self->parent;
+    parent.build_const_generic = of_a_host<node_const_generic>;
+    parent.build_expression_or_default_item = of_a_host<node_expression_or_default_item>;
+    int data = 0;
+    const auto expect = [&](auto *node, auto *own) {
+        deferred = {};
+        const owned<std::remove_pointer_t<decltype(node)>> holder(node);
+        EXPECT_EQ(taken(own(self.get(), node, &data)), gives("the host's", -42));
+        EXPECT_EQ(deferred.self, self.get());
+        EXPECT_EQ(deferred.node, node);
+        EXPECT_EQ(deferred.data, &data);
+        EXPECT_EQ(deferred.count, 1);
+    };
+    expect(make(node_const_generic{.const_integer = const_integer("1")}),
+           quillet_const_generic_mysql_builder);
+    expect(make(node_expression_or_default_item{.expression = column("a")}),
+           quillet_expression_or_default_item_mysql_builder);
+
+    // Operands that refuse leave their reason, but neither a text nor a status.
+    const auto expect_operator = [&](const char *name, auto slot, auto *own) {
+        parent.*slot = of_a_host<node_expression>;
+        expect(operation(name, column("a"), column("b")), own);
+        expect(operation(name, operation("operator_factorial", column("a")), column("b")), own);
+    };
+    expect_operator("operator_addition", &builder::build_operator_addition,
+                    quillet_operator_addition_mysql_builder);
+    expect_operator("operator_substraction", &builder::build_operator_substraction,
+                    quillet_operator_substraction_mysql_builder);
+    expect_operator("operator_multiplicity", &builder::build_operator_multiplicity,
+                    quillet_operator_multiplicity_mysql_builder);
+    expect_operator("operator_divide", &builder::build_operator_divide,
+                    quillet_operator_divide_mysql_builder);
+    expect_operator("operator_uminus", &builder::build_operator_uminus,
+                    quillet_operator_uminus_mysql_builder);
+}
+
+TEST_F(Mysql, DecidesBeforeItDefers) {
+    const owned<builder> self(quillet_mysql_builder_create());
+    self->parent->build_operator_addition = of_a_host<node_expression>;
+    self->parent->build_const_generic = of_a_host<node_const_generic>;
+    const any_tree sum(operation("operator_addition", typed(QUILLET_TYPE_DATE, "'2005-01-01'"),
+                                 operation("operator_factorial", column("a"))));
+    EXPECT_EQ(sum.render(self.get()), gives("the host's", -42));
+    const any_tree dates(operation("operator_substraction", typed(QUILLET_TYPE_DATE, "'x'"),
+                                   typed(QUILLET_TYPE_DATE, "'y'")));
+    EXPECT_EQ(dates.render(self.get()),
+              gives("TO_DAYS(CAST('x' AS DATE)) - TO_DAYS(CAST('y' AS DATE))"));
+}
+
+// Without a parent, or with an empty slot there, what stands in the builder's own slot is called.
+build_result *answer_text(builder *, node_expression *, void *) {
+    build_result *result = quillet_build_result_create();
+    result->query = copy("x");
+    return result;
+}
+
+TEST_F(Mysql, DefersToItsOwnSlotWithoutAParent) {
+    builder self{};
+    self.build_operator_addition = of_a_host<node_expression>;
+    self.build_expression = answer_text;
+    const owned<node_expression> sum(operation("operator_addition", column("a"), column("b")));
+    EXPECT_EQ(taken(quillet_operator_addition_mysql_builder(&self, sum.get(), nullptr)),
+              gives("the host's", -42));
+    self.build_operator_addition = nullptr;
+    EXPECT_EQ(taken(quillet_operator_addition_mysql_builder(&self, sum.get(), nullptr)), no_record);
+    self.build_operator_addition = quillet_operator_addition_default_builder;
+    EXPECT_EQ(taken(quillet_operator_addition_mysql_builder(&self, sum.get(), nullptr)),
+              gives("x + x"));
 }
 
 TEST_F(Mysql, NeedsOperands) {

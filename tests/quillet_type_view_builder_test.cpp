@@ -151,6 +151,58 @@ TEST(TypeView, DecoratesWhatTheParentGives) {
               gives("WHERE TEXT ( no data ) ", -3));
 }
 
+// Every sub-expression comes back through the operation, and so through its parent's.
+
+int calls_of_the_parent = 0;
+
+build_result *counting_expression(builder *self, node_expression *node, void *data) {
+    ++calls_of_the_parent;
+    return quillet_expression_default_builder(self, node, data);
+}
+
+struct count_case {
+    const char *statement;
+    int calls;
+};
+
+constexpr count_case counts[] = {
+    {"select a", 1},
+    {"select a + b + c", 5},
+    {"select ((a))", 3},
+    {"select not a", 2},
+    {"select not not a", 3},
+    {"select a::int", 2},
+    {"select cast(a::int as text)", 3},
+    {"select a is null", 2},
+    {"select a like b escape 'c'", 3},
+    {"select a between b and c", 4},
+    {"select f(a, b + c)", 5},
+    {"select case a when b then c else d end", 5},
+    {"select (a, b) overlaps (c, d)", 5},
+    {"select a from t where b order by c", 3},
+};
+
+TEST(TypeView, CallsTheParentForEveryExpression) {
+    for (const auto &[statement, calls] : counts) {
+        const parsed outcome = parse(statement);
+        ASSERT_EQ(outcome.result, 0) << statement;
+        const owned<builder> plain(quillet_type_view_builder_create());
+        const quillet_tests::outcome expected = taken(call_slot(plain.get(), outcome.tree.get()));
+        const parsed again = parse(statement);
+        const owned<builder> self(quillet_type_view_builder_create());
+        self->parent->build_expression = counting_expression;
+        calls_of_the_parent = 0;
+        EXPECT_EQ(taken(call_slot(self.get(), again.tree.get())), expected) << statement;
+        EXPECT_EQ(calls_of_the_parent, calls) << statement;
+    }
+}
+
+TEST(TypeView, GivesNothingWithoutAnOperationToAsk) {
+    builder self{};
+    const owned<node_expression> node(integer("1"));
+    EXPECT_EQ(taken(quillet_expression_type_view_builder(&self, node.get(), nullptr)), no_record);
+}
+
 build_result *star(builder *, node_const_integer *, void *) {
     build_result *result = quillet_build_result_create();
     result->query = copy("*");

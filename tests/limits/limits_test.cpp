@@ -4,6 +4,7 @@
 #include "quillet.h"
 
 #include <gtest/gtest.h>
+#include <pthread.h>
 #include <sys/resource.h>
 
 #include <algorithm>
@@ -104,6 +105,13 @@ void expect_rendering(const sequence &s, int builder, int count) {
                                           s.rendered_end, count))
         << s.name << " differs with builder " << builder;
 }
+
+// How much more stack each call takes.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr std::size_t frame_growth = 8;
+#else
+constexpr std::size_t frame_growth = 1;
+#endif
 
 // Whether the usual stack is there, on which everything up to the parser's limit is rendered.
 bool has_usual_stack() {
@@ -261,6 +269,76 @@ TEST(Depth, UpToTheParsersLimit) {
             EXPECT_TRUE(code == 0 || (code == -3 && !must_translate)) << n.name << ' ' << builder;
         }
     }
+}
+
+// The bound is that of the running thread, however little of its stack is left.
+
+struct thread_task {
+    const nesting *nested;
+    int code[4];
+};
+
+void *translate_nested(void *argument) {
+    auto &task = *static_cast<thread_task *>(argument);
+    const nesting &n = *task.nested;
+    for (const int builder : {postgresql, mysql, type_view}) {
+        const std::string query =
+            "select " + repeated(n.before, n.depth) + "x" + repeated(n.behind, n.depth);
+        task.code[builder] = translate(query, builder).code;
+    }
+    task.code[tree] = translate("select (((x)))", mysql).code;
+    return nullptr;
+}
+
+void expect_in_thread(const nesting &n, std::size_t stack_size) {
+    pthread_attr_t attributes;
+    pthread_t thread{};
+    thread_task task{&n, {1, 1, 1, 1}};
+    ASSERT_EQ(pthread_attr_init(&attributes), 0);
+    ASSERT_EQ(pthread_attr_setstacksize(&attributes, stack_size), 0);
+    ASSERT_EQ(pthread_create(&thread, &attributes, translate_nested, &task), 0);
+    pthread_join(thread, nullptr);
+    pthread_attr_destroy(&attributes);
+    for (const int builder : {postgresql, mysql, type_view})
+        EXPECT_TRUE(task.code[builder] == 0 || task.code[builder] == -3)
+            << n.name << ' ' << builder << ' ' << stack_size;
+    EXPECT_EQ(task.code[tree], 0) << n.name << ' ' << stack_size;
+}
+
+TEST(Depth, EndsWhereTheThreadsStackDoes) {
+    constexpr std::size_t smallest = 64UL * 1024 * frame_growth;
+    for (const nesting &n : nestings)
+        for (std::size_t size = smallest; size <= 8192UL * 1024; size *= 2)
+            expect_in_thread(n, size);
+}
+
+// A host may be deep in calls of its own when it translates.
+[[gnu::noinline]] int translate_below(std::size_t used, const std::string &query) {
+    volatile char frame[1024] = {};
+    frame[0] = 1;
+    return used > sizeof frame ? translate_below(used - sizeof frame, query) + (frame[0] - 1)
+                               : translate(query, postgresql).code;
+}
+
+void *translate_deep_in_calls(void *) {
+    const nesting &n = nestings[0];
+    const std::string query =
+        "select " + repeated(n.before, n.depth) + "x" + repeated(n.behind, n.depth);
+    for (std::size_t used = 0; used <= 400UL * 1024; used += 10UL * 1024) {
+        const int code = translate_below(used, query);
+        EXPECT_TRUE(code == 0 || code == -3) << used;
+    }
+    return nullptr;
+}
+
+TEST(Depth, EndsThereInDeepCallsOfTheHost) {
+    pthread_attr_t attributes;
+    pthread_t thread{};
+    ASSERT_EQ(pthread_attr_init(&attributes), 0);
+    ASSERT_EQ(pthread_attr_setstacksize(&attributes, 512UL * 1024 * frame_growth), 0);
+    ASSERT_EQ(pthread_create(&thread, &attributes, translate_deep_in_calls, nullptr), 0);
+    pthread_join(thread, nullptr);
+    pthread_attr_destroy(&attributes);
 }
 
 TEST(Depth, OfTreeViews) {
