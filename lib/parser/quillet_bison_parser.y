@@ -10,8 +10,8 @@
  *   carries a word to its parent (identifiers that name types, join types) is freed there.
  * - Every semantic type has a destructor, so a failed parse frees what it had built.
  * - Lists are left-recursive: the head of the chain holds the last item.
- * - The value union is plain pointers: bison lets the stacks grow from 200 to 10,000 entries in C++
- *   only if the value type is trivial.
+ * - The value of the kind k is v_k. The union of the values is plain pointers: bison lets the stacks
+ *   grow from 200 to 10,000 entries in C++ only if they can be copied as bytes.
  *
  * Conflicts
  *
@@ -20,7 +20,7 @@
  * conflicts; the build pins both counts (bison's own %expect-rr serves GLR parsers alone), so that a
  * change of meaning cannot slip in:
  *
- * - Operators without precedence ("!" behind its operand, "!~~", "!~~*", "#", "&", "|", binary "~",
+ * - Operators without precedence ("!" after its operand, "!~~", "!~~*", "#", "&", "|", binary "~",
  *   SIMILAR TO, "::", the FROM of IS DISTINCT FROM) are shifted wherever they follow an operand:
  *   they take the shortest left operand and everything to their right. Nearly all of the
  *   shift/reduce conflicts are theirs: one for each operator's complete right operand.
@@ -34,7 +34,12 @@
 %code requires {
 #include "quillet_tree_node.h"
 
-struct date_format_node;
+/* The value of a token with a text, or of a nonterminal: the node that it makes. */
+union quillet_value {
+    char *v_string;
+#define NODE(kind) node_##kind *v_##kind;
+#include "quillet_nodes.def"
+};
 }
 
 %code provides {
@@ -66,68 +71,7 @@ using namespace quillet;
 %define api.prefix {yy_quillet_}
 %define api.token.prefix {TOKEN_}
 
-%union {
-    char *v_string;
-    char v_character;
-    int v_integer;
-    double v_floating;
-    struct date_format_node *v_date_format;
-    node_main *main;
-    node_select *select;
-    node_insert *insert;
-    node_values_list *values_list;
-    node_expression_or_default_list *expression_or_default_list;
-    node_expression_or_default_item *expression_or_default_item;
-    node_update *update;
-    node_set_clausule *set_clausule;
-    node_set_list *set_list;
-    node_set_item *set_item;
-    node_delete *delete_;
-    node_distinct_select_list *distinct_select_list;
-    node_tables *tables;
-    node_tables_list *tables_list;
-    node_table *table;
-    node_join_list *join_list;
-    node_join *join;
-    node_join_type *join_type;
-    node_join_expression *join_expression;
-    node_where_clausule *where_clausule;
-    node_group_by_clausule *group_by_clausule;
-    node_having_clausule *having_clausule;
-    node_order_by_clausule *order_by_clausule;
-    node_order_by_list *order_by_list;
-    node_order_by_item *order_by_item;
-    node_limit_clausule *limit_clausule;
-    node_distinct *distinct;
-    node_select_list *select_list;
-    node_expression *expression;
-    node_case_expression *case_expression;
-    node_when_list *when_list;
-    node_when_item *when_item;
-    node_else_clausule *else_clausule;
-    node_overlaps_expression *overlaps_expression;
-    node_cast_expression *cast_expression;
-    node_const_generic *const_generic;
-    node_at_time_zone *at_time_zone;
-    node_const_string *const_string;
-    node_const_integer *const_integer;
-    node_const_floating *const_floating;
-    node_escape *escape;
-    node_const_boolean *const_boolean;
-    node_select_item *select_item;
-    node_identifier_list *identifier_list;
-    node_identifier *identifier;
-    node_column_reference_list *column_reference_list;
-    node_column_reference *column_reference;
-    node_function_call *function_call;
-    node_using_argument *using_argument;
-    node_placing_from_for_argument *placing_from_for_argument;
-    node_in_argument *in_argument;
-    node_from_for_argument *from_for_argument;
-    node_trim_argument *trim_argument;
-    node_expressions_list *expressions_list;
-    node_agregate_expression *agregate_expression;
-}
+%define api.value.type {union quillet_value}
 
 /* Keywords, in any letter case. */
 %token ALL                  258
@@ -245,61 +189,27 @@ using namespace quillet;
 %precedence PREFIX_NOT PREFIX_MINUS PREFIX_ABS PREFIX_SQUARE_ROOT PREFIX_CUBIC_ROOT
 %precedence PREFIX_FACTORIAL PREFIX_BITWISE_NOT
 
-%type <main> statement
-%type <select> select
-%type <insert> insert
-%type <values_list> values_list
-%type <expression_or_default_list> expression_or_default_list
-%type <expression_or_default_item> expression_or_default_item
-%type <update> update
-%type <set_clausule> set_clausule
-%type <set_list> set_list
-%type <set_item> set_item
-%type <delete_> delete
-%type <distinct_select_list> distinct_select_list
-%type <tables> tables
-%type <tables_list> tables_list
-%type <table> table
-%type <join_list> join_list
-%type <join> join
-%type <join_type> join_type
-%type <join_expression> join_expression
-%type <where_clausule> where_clausule
-%type <group_by_clausule> group_by_clausule
-%type <having_clausule> having_clausule
-%type <order_by_clausule> order_by_clausule
-%type <order_by_list> order_by_list
-%type <order_by_item> order_by_item
-%type <limit_clausule> limit_clausule
-%type <distinct> distinct
-%type <select_list> select_list
-%type <expression> expression
-%type <case_expression> case_expression
-%type <when_list> when_list
-%type <when_item> when_item
-%type <else_clausule> else_clausule
-%type <overlaps_expression> overlaps_expression
-%type <cast_expression> cast_expression
-%type <const_generic> const_generic
-%type <at_time_zone> at_time_zone
-%type <const_string> const_string
-%type <const_integer> const_integer
-%type <const_floating> const_floating
-%type <escape> escape
-%type <const_boolean> const_boolean
-%type <select_item> select_item
-%type <identifier_list> identifier_list
-%type <identifier> identifier
-%type <column_reference_list> column_reference_list
-%type <column_reference> column_reference
-%type <function_call> function_call
-%type <using_argument> using_argument
-%type <placing_from_for_argument> placing_from_for_argument
-%type <in_argument> in_argument
-%type <from_for_argument> from_for_argument
-%type <trim_argument> trim_argument
-%type <expressions_list> expressions_list
-%type <agregate_expression> agregate_expression
+/* A nonterminal makes the node of its name; a statement makes the root. */
+%type <v_main> statement <v_select> select <v_insert> insert <v_values_list> values_list
+%type <v_expression_or_default_list> expression_or_default_list
+%type <v_expression_or_default_item> expression_or_default_item
+%type <v_update> update <v_set_clausule> set_clausule <v_set_list> set_list <v_set_item> set_item <v_delete> delete
+%type <v_distinct_select_list> distinct_select_list <v_tables> tables <v_tables_list> tables_list <v_table> table
+%type <v_join_list> join_list <v_join> join <v_join_type> join_type <v_join_expression> join_expression
+%type <v_where_clausule> where_clausule <v_group_by_clausule> group_by_clausule <v_having_clausule> having_clausule
+%type <v_order_by_clausule> order_by_clausule <v_order_by_list> order_by_list <v_order_by_item> order_by_item
+%type <v_limit_clausule> limit_clausule <v_distinct> distinct <v_select_list> select_list
+%type <v_expression> expression <v_case_expression> case_expression <v_when_list> when_list <v_when_item> when_item
+%type <v_else_clausule> else_clausule <v_overlaps_expression> overlaps_expression
+%type <v_cast_expression> cast_expression <v_const_generic> const_generic <v_at_time_zone> at_time_zone
+%type <v_const_string> const_string <v_const_integer> const_integer <v_const_floating> const_floating
+%type <v_escape> escape <v_const_boolean> const_boolean <v_select_item> select_item
+%type <v_identifier_list> identifier_list <v_identifier> identifier
+%type <v_column_reference_list> column_reference_list <v_column_reference> column_reference
+%type <v_function_call> function_call <v_using_argument> using_argument
+%type <v_placing_from_for_argument> placing_from_for_argument <v_in_argument> in_argument
+%type <v_from_for_argument> from_for_argument <v_trim_argument> trim_argument
+%type <v_expressions_list> expressions_list <v_agregate_expression> agregate_expression
 
 %destructor { release($$); } <*>
 
