@@ -3,8 +3,8 @@
 #include <cstdio>
 #include <cstring>
 
-#include "quillet_parse_tree.h"
 #include "quillet_limits.h"
+#include "quillet_parse_tree.h"
 #include "quillet_parser_tools.h"
 #include "quillet_tree_memory.h"
 
