@@ -11,6 +11,8 @@
 #include <utility>
 #include <vector>
 
+#include "quillet_date_format_words.h"
+
 namespace {
 
 // A word as a test tells it; no string is "none".
@@ -132,6 +134,54 @@ TEST(DateFormatCodes, AreFixed) {
                             1048, 1049, 1050, 1101, 1102, 1201, 1202, 1203};
     EXPECT_EQ(std::vector<int>(std::begin(codes), std::end(codes)),
               std::vector<int>(std::begin(expected), std::end(expected)));
+}
+
+constexpr spelling affixes[] = {
+    {"FM", 1101}, {"FX", 1102}, {"TH", 1201}, {"th", 1202}, {"SP", 1203},
+};
+
+std::vector<spelling> words_and_affixes() {
+    std::vector<spelling> all(std::begin(spellings), std::end(spellings));
+    all.insert(all.end(), std::begin(affixes), std::end(affixes));
+    return all;
+}
+
+// What the list of words finds: a code and its spelling.
+std::pair<int, std::string> longest_word(const std::string &pattern) {
+    std::size_t length = 0;
+    const int code = _quillet_date_format_word(pattern.c_str(), &length);
+    return {code, pattern.substr(0, length)};
+}
+
+TEST(DateFormatWords, HaveTheSpellingsOfTheTable) {
+    const std::vector<spelling> all = words_and_affixes();
+    for (const auto &[spelled, code] : all)
+        EXPECT_EQ(longest_word(spelled), (std::pair<int, std::string>(code, spelled)));
+    const std::vector<std::string> listed = {
+#define FORMAT(name, code, plain, with_fm, ...) __VA_ARGS__ __VA_OPT__(, )
+#define AFFIX(name, code, spelling) spelling,
+#include "quillet_date_formats.def"
+    };
+    EXPECT_EQ(listed.size(), all.size());
+}
+
+TEST(DateFormatWords, AreFoundByTheLongestSpelling) {
+    const std::vector<spelling> all = words_and_affixes();
+    for (const spelling &first : all)
+        for (const spelling &second : all) {
+            const std::string pattern = std::string(first.text) + second.text;
+            std::pair<int, std::string> expected;
+            for (const auto &[spelled, code] : all)
+                if (pattern.starts_with(spelled) && std::strlen(spelled) > expected.second.size())
+                    expected = {code, spelled};
+            EXPECT_EQ(longest_word(pattern), expected) << pattern;
+        }
+}
+
+TEST(DateFormatWords, NeedTheWholeSpelling) {
+    for (const char *pattern : {"", "H", "h", "A", "A.", "A.M", "Mo", "hh", "Hh", "1", " HH", "-",
+                                "\"HH", ",YYY", "\xc3\xa9", "\xff"})
+        EXPECT_EQ(longest_word(pattern), (std::pair<int, std::string>())) << pattern;
 }
 
 TEST(DateFormatParser, TakesEverySpellingAsOneWord) {

@@ -11,16 +11,17 @@ extern "C" {
 #endif
 
 enum {
-#define FORMAT(name, code) DATE_FORMAT_##name = code,
+#define FORMAT(name, code, ...) DATE_FORMAT_##name = code,
+#define AFFIX(name, code, spelling) DATE_FORMAT_##name = code,
 #include "quillet_date_formats.def"
 };
 
 /* One word of a pattern with what belongs to it. */
 typedef struct date_format_node {
-    int prefix; /* 0 or a DATE_FORMAT_PREFIX_ code */
-    int format; /* a DATE_FORMAT_ code, or the code of another character; 0 behind a lone prefix */
-    int suffix; /* 0 or a DATE_FORMAT_SUFFIX_ code */
-    char *string;                  /* of DATE_FORMAT_STRING, without its quotes; owned */
+    int prefix;   /* 0 or a DATE_FORMAT_PREFIX_ code */
+    int format;   /* a DATE_FORMAT_ code, or the code of another character; 0 after a lone prefix */
+    int suffix;   /* 0 or a DATE_FORMAT_SUFFIX_ code */
+    char *string; /* of DATE_FORMAT_STRING, without its quotes; owned */
     struct date_format_node *next; /* owned */
 } date_format_node;
 

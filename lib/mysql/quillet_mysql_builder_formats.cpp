@@ -1,5 +1,6 @@
 // TO_CHAR in the builder mysql.
 
+#include <array>
 #include <memory>
 #include <string>
 
@@ -12,32 +13,19 @@ namespace quillet::mysql {
 
 namespace {
 
+// DATE_FORMAT's specifier for a word of a pattern, plain and with FM; empty if it has none.
 struct specifier {
-    int format;
-    std::string_view plain;
-    std::string_view with_fm; // empty if the format has none with FM
+    char plain[3];
+    char with_fm[3];
 };
 
-// The words of a pattern that DATE_FORMAT knows.
-constexpr specifier specifiers[] = {
-    {DATE_FORMAT_HH, "%I", "%l"},
-    {DATE_FORMAT_HH24, "%H", "%k"},
-    {DATE_FORMAT_MI, "%i", ""},
-    {DATE_FORMAT_SS, "%s", ""},
-    {DATE_FORMAT_US, "%f", ""},
-    {DATE_FORMAT_AM_UPPER, "%p", "%p"},
-    {DATE_FORMAT_YYYY, "%Y", "%Y"},
-    {DATE_FORMAT_YY, "%Y", "%Y"}, // four digits all the same
-    {DATE_FORMAT_IYYY, "%Y", "%Y"},
-    {DATE_FORMAT_IY, "%Y", "%Y"},
-    {DATE_FORMAT_MONTH_CAPITAL, "%M", "%M"},
-    {DATE_FORMAT_MON_CAPITAL, "%b", "%b"},
-    {DATE_FORMAT_MM, "%M", "%c"}, // the month's name without FM
-    {DATE_FORMAT_DAY_CAPITAL, "", "%W"},
-    {DATE_FORMAT_DY_CAPITAL, "%a", "%a"},
-    {DATE_FORMAT_DDD, "%j", ""},
-    {DATE_FORMAT_DD, "%d", "%e"},
-};
+// By the words' codes, from that of quoted text on.
+constexpr auto specifiers = [] {
+    std::array<specifier, DATE_FORMAT_TZ_LOWER - DATE_FORMAT_STRING + 1> list{};
+#define FORMAT(name, code, plain, with_fm, ...) list[code - DATE_FORMAT_STRING] = {plain, with_fm};
+#include "quillet_date_formats.def"
+    return list;
+}();
 
 void append_escaped(text_buffer &out, std::string_view text) {
     for (const char c : text) {
@@ -53,16 +41,13 @@ bool append_specifier(text_buffer &out, const date_format_node &node) {
         append_escaped(out, node.string ? node.string : "");
         return true;
     }
-    for (const specifier &known : specifiers) {
-        if (known.format != node.format)
-            continue;
-        const std::string_view text =
-            node.prefix == DATE_FORMAT_PREFIX_FM ? known.with_fm : known.plain;
+    if (node.format > DATE_FORMAT_STRING && node.format <= DATE_FORMAT_TZ_LOWER) {
+        const auto position = static_cast<std::size_t>(node.format - DATE_FORMAT_STRING);
+        const auto &[plain, with_fm] = specifiers[position];
+        const std::string_view text = node.prefix == DATE_FORMAT_PREFIX_FM ? with_fm : plain;
         out.append(text);
         return !text.empty();
     }
-    if (node.format > DATE_FORMAT_STRING && node.format <= DATE_FORMAT_TZ_LOWER)
-        return false;
     if (node.format != 0) {
         const char character = static_cast<char>(node.format);
         append_escaped(out, {&character, 1});

@@ -10,8 +10,8 @@
  *   carries a word to its parent (identifiers that name types, join types) is freed there.
  * - Every semantic type has a destructor, so a failed parse frees what it had built.
  * - Lists are left-recursive: the head of the chain holds the last item.
- * - The value union is plain pointers: bison lets the stacks grow from 200 to 10,000 entries in C++
- *   only if the value type is trivial.
+ * - The value of the kind k is v_k. The union of the values is plain pointers: bison lets the stacks
+ *   grow from 200 to 10,000 entries in C++ only if they can be copied as bytes.
  *
  * Conflicts
  *
@@ -20,7 +20,7 @@
  * conflicts; the build pins both counts (bison's own %expect-rr serves GLR parsers alone), so that a
  * change of meaning cannot slip in:
  *
- * - Operators without precedence ("!" behind its operand, "!~~", "!~~*", "#", "&", "|", binary "~",
+ * - Operators without precedence ("!" after its operand, "!~~", "!~~*", "#", "&", "|", binary "~",
  *   SIMILAR TO, "::", the FROM of IS DISTINCT FROM) are shifted wherever they follow an operand:
  *   they take the shortest left operand and everything to their right. Nearly all of the
  *   shift/reduce conflicts are theirs: one for each operator's complete right operand.
@@ -34,7 +34,12 @@
 %code requires {
 #include "quillet_tree_node.h"
 
-struct date_format_node;
+/* The value of a token with a text, or of a nonterminal: the node that it makes. */
+union quillet_value {
+    char *v_string;
+#define NODE(kind) node_##kind *v_##kind;
+#include "quillet_nodes.def"
+};
 }
 
 %code provides {
@@ -66,68 +71,7 @@ using namespace quillet;
 %define api.prefix {yy_quillet_}
 %define api.token.prefix {TOKEN_}
 
-%union {
-    char *v_string;
-    char v_character;
-    int v_integer;
-    double v_floating;
-    struct date_format_node *v_date_format;
-    node_main *main;
-    node_select *select;
-    node_insert *insert;
-    node_values_list *values_list;
-    node_expression_or_default_list *expression_or_default_list;
-    node_expression_or_default_item *expression_or_default_item;
-    node_update *update;
-    node_set_clausule *set_clausule;
-    node_set_list *set_list;
-    node_set_item *set_item;
-    node_delete *delete_;
-    node_distinct_select_list *distinct_select_list;
-    node_tables *tables;
-    node_tables_list *tables_list;
-    node_table *table;
-    node_join_list *join_list;
-    node_join *join;
-    node_join_type *join_type;
-    node_join_expression *join_expression;
-    node_where_clausule *where_clausule;
-    node_group_by_clausule *group_by_clausule;
-    node_having_clausule *having_clausule;
-    node_order_by_clausule *order_by_clausule;
-    node_order_by_list *order_by_list;
-    node_order_by_item *order_by_item;
-    node_limit_clausule *limit_clausule;
-    node_distinct *distinct;
-    node_select_list *select_list;
-    node_expression *expression;
-    node_case_expression *case_expression;
-    node_when_list *when_list;
-    node_when_item *when_item;
-    node_else_clausule *else_clausule;
-    node_overlaps_expression *overlaps_expression;
-    node_cast_expression *cast_expression;
-    node_const_generic *const_generic;
-    node_at_time_zone *at_time_zone;
-    node_const_string *const_string;
-    node_const_integer *const_integer;
-    node_const_floating *const_floating;
-    node_escape *escape;
-    node_const_boolean *const_boolean;
-    node_select_item *select_item;
-    node_identifier_list *identifier_list;
-    node_identifier *identifier;
-    node_column_reference_list *column_reference_list;
-    node_column_reference *column_reference;
-    node_function_call *function_call;
-    node_using_argument *using_argument;
-    node_placing_from_for_argument *placing_from_for_argument;
-    node_in_argument *in_argument;
-    node_from_for_argument *from_for_argument;
-    node_trim_argument *trim_argument;
-    node_expressions_list *expressions_list;
-    node_agregate_expression *agregate_expression;
-}
+%define api.value.type {union quillet_value}
 
 /* Keywords, in any letter case. */
 %token ALL                  258
@@ -245,61 +189,27 @@ using namespace quillet;
 %precedence PREFIX_NOT PREFIX_MINUS PREFIX_ABS PREFIX_SQUARE_ROOT PREFIX_CUBIC_ROOT
 %precedence PREFIX_FACTORIAL PREFIX_BITWISE_NOT
 
-%type <main> statement
-%type <select> select
-%type <insert> insert
-%type <values_list> values_list
-%type <expression_or_default_list> expression_or_default_list
-%type <expression_or_default_item> expression_or_default_item
-%type <update> update
-%type <set_clausule> set_clausule
-%type <set_list> set_list
-%type <set_item> set_item
-%type <delete_> delete
-%type <distinct_select_list> distinct_select_list
-%type <tables> tables
-%type <tables_list> tables_list
-%type <table> table
-%type <join_list> join_list
-%type <join> join
-%type <join_type> join_type
-%type <join_expression> join_expression
-%type <where_clausule> where_clausule
-%type <group_by_clausule> group_by_clausule
-%type <having_clausule> having_clausule
-%type <order_by_clausule> order_by_clausule
-%type <order_by_list> order_by_list
-%type <order_by_item> order_by_item
-%type <limit_clausule> limit_clausule
-%type <distinct> distinct
-%type <select_list> select_list
-%type <expression> expression
-%type <case_expression> case_expression
-%type <when_list> when_list
-%type <when_item> when_item
-%type <else_clausule> else_clausule
-%type <overlaps_expression> overlaps_expression
-%type <cast_expression> cast_expression
-%type <const_generic> const_generic
-%type <at_time_zone> at_time_zone
-%type <const_string> const_string
-%type <const_integer> const_integer
-%type <const_floating> const_floating
-%type <escape> escape
-%type <const_boolean> const_boolean
-%type <select_item> select_item
-%type <identifier_list> identifier_list
-%type <identifier> identifier
-%type <column_reference_list> column_reference_list
-%type <column_reference> column_reference
-%type <function_call> function_call
-%type <using_argument> using_argument
-%type <placing_from_for_argument> placing_from_for_argument
-%type <in_argument> in_argument
-%type <from_for_argument> from_for_argument
-%type <trim_argument> trim_argument
-%type <expressions_list> expressions_list
-%type <agregate_expression> agregate_expression
+/* A nonterminal makes the node of its name; a statement makes the root. */
+%type <v_main> statement <v_select> select <v_insert> insert <v_values_list> values_list
+%type <v_expression_or_default_list> expression_or_default_list
+%type <v_expression_or_default_item> expression_or_default_item
+%type <v_update> update <v_set_clausule> set_clausule <v_set_list> set_list <v_set_item> set_item <v_delete> delete
+%type <v_distinct_select_list> distinct_select_list <v_tables> tables <v_tables_list> tables_list <v_table> table
+%type <v_join_list> join_list <v_join> join <v_join_type> join_type <v_join_expression> join_expression
+%type <v_where_clausule> where_clausule <v_group_by_clausule> group_by_clausule <v_having_clausule> having_clausule
+%type <v_order_by_clausule> order_by_clausule <v_order_by_list> order_by_list <v_order_by_item> order_by_item
+%type <v_limit_clausule> limit_clausule <v_distinct> distinct <v_select_list> select_list
+%type <v_expression> expression <v_case_expression> case_expression <v_when_list> when_list <v_when_item> when_item
+%type <v_else_clausule> else_clausule <v_overlaps_expression> overlaps_expression
+%type <v_cast_expression> cast_expression <v_const_generic> const_generic <v_at_time_zone> at_time_zone
+%type <v_const_string> const_string <v_const_integer> const_integer <v_const_floating> const_floating
+%type <v_escape> escape <v_const_boolean> const_boolean <v_select_item> select_item
+%type <v_identifier_list> identifier_list <v_identifier> identifier
+%type <v_column_reference_list> column_reference_list <v_column_reference> column_reference
+%type <v_function_call> function_call <v_using_argument> using_argument
+%type <v_placing_from_for_argument> placing_from_for_argument <v_in_argument> in_argument
+%type <v_from_for_argument> from_for_argument <v_trim_argument> trim_argument
+%type <v_expressions_list> expressions_list <v_agregate_expression> agregate_expression
 
 %destructor { release($$); } <*>
 
@@ -326,20 +236,17 @@ opt_semicolon
     ;
 
 insert
-    : INSERT INTO table VALUES values_list
-        { $$ = make(node_insert{.table = $3, .values_list = $5}); }
+    : INSERT INTO table VALUES values_list { $$ = make(node_insert{.table = $3, .values_list = $5}); }
     | INSERT INTO table '(' identifier_list ')' VALUES values_list
         { $$ = make(node_insert{.table = $3, .identifier_list = $5, .values_list = $8}); }
     ;
 
 update
-    : UPDATE table set_clausule where_clausule
-        { $$ = make(node_update{.table = $2, .set_clausule = $3, .where_clausule = $4}); }
+    : UPDATE table set_clausule where_clausule { $$ = make(node_update{.table = $2, .set_clausule = $3, .where_clausule = $4}); }
     ;
 
 delete
-    : DELETE FROM table where_clausule
-        { $$ = make(node_delete{.table = $3, .where_clausule = $4}); }
+    : DELETE FROM table where_clausule { $$ = make(node_delete{.table = $3, .where_clausule = $4}); }
     ;
 
 set_clausule
@@ -348,42 +255,34 @@ set_clausule
 
 set_list
     : set_list ',' set_item { $$ = make(node_set_list{.set_list = $1, .set_item = $3}); }
-    | set_item { $$ = make(node_set_list{.set_item = $1}); }
+    | set_item              { $$ = make(node_set_list{.set_item = $1}); }
     ;
 
 set_item
-    : column_reference '=' expression
-        { $$ = make(node_set_item{.column_reference = $1, .expression = $3}); }
+    : column_reference '=' expression { $$ = make(node_set_item{.column_reference = $1, .expression = $3}); }
     ;
 
 values_list
-    : DEFAULT VALUES { $$ = make(node_values_list{}); }
-    | '(' expression_or_default_list ')'
-        { $$ = make(node_values_list{.expression_or_default_list = $2}); }
+    : DEFAULT VALUES                     { $$ = make(node_values_list{}); }
+    | '(' expression_or_default_list ')' { $$ = make(node_values_list{.expression_or_default_list = $2}); }
     ;
 
 expression_or_default_list
     : expression_or_default_list ',' expression_or_default_item
-        {
-          $$ = make(node_expression_or_default_list{.expression_or_default_list = $1,
-                                                    .expression_or_default_item = $3});
-        }
-    | expression_or_default_item
-        { $$ = make(node_expression_or_default_list{.expression_or_default_item = $1}); }
+        { $$ = make(node_expression_or_default_list{.expression_or_default_list = $1, .expression_or_default_item = $3}); }
+    | expression_or_default_item { $$ = make(node_expression_or_default_list{.expression_or_default_item = $1}); }
     ;
 
 expression_or_default_item
     : expression { $$ = make(node_expression_or_default_item{.expression = $1}); }
-    | DEFAULT { $$ = make(node_expression_or_default_item{}); }
+    | DEFAULT    { $$ = make(node_expression_or_default_item{}); }
     ;
 
 select
-    : SELECT distinct_select_list FROM tables where_clausule group_by_clausule order_by_clausule
-      limit_clausule
+    : SELECT distinct_select_list FROM tables where_clausule group_by_clausule order_by_clausule limit_clausule
         {
           $$ = make(node_select{.distinct_select_list = $2, .tables = $4, .where_clausule = $5,
-                                .group_by_clausule = $6, .order_by_clausule = $7,
-                                .limit_clausule = $8});
+                                .group_by_clausule = $6, .order_by_clausule = $7, .limit_clausule = $8});
         }
     | SELECT distinct_select_list { $$ = make(node_select{.distinct_select_list = $2}); }
     ;
@@ -395,52 +294,50 @@ tables
     ;
 
 tables_list
-    : table { $$ = make(node_tables_list{.table = $1}); }
+    : table                 { $$ = make(node_tables_list{.table = $1}); }
     | tables_list ',' table { $$ = make(node_tables_list{.table = $3, .tables_list = $1}); }
     ;
 
 join_list
-    : %empty { $$ = nullptr; }
+    : %empty         { $$ = nullptr; }
     | join_list join { $$ = make(node_join_list{.join = $2, .join_list = $1}); }
-    | join { $$ = make(node_join_list{.join = $1}); }
+    | join           { $$ = make(node_join_list{.join = $1}); }
     ;
 
 join
-    : join_type JOIN table join_expression
-        { $$ = make(node_join{.type = taken($1), .table = $3, .join_expression = $4}); }
-    | NATURAL join_type JOIN table
-        { $$ = make(node_join{.type = taken($2), .natural = 1, .table = $4}); }
-    | CROSS JOIN table { $$ = make(node_join{.type = QUILLET_JOIN_CROSS, .table = $3}); }
+    : join_type JOIN table join_expression { $$ = make(node_join{.type = taken($1), .table = $3, .join_expression = $4}); }
+    | NATURAL join_type JOIN table         { $$ = make(node_join{.type = taken($2), .natural = 1, .table = $4}); }
+    | CROSS JOIN table                     { $$ = make(node_join{.type = QUILLET_JOIN_CROSS, .table = $3}); }
     ;
 
 join_type
-    : %empty { $$ = make(node_join_type{.type = QUILLET_JOIN_INNER}); }
-    | INNER { $$ = make(node_join_type{.type = QUILLET_JOIN_INNER}); }
-    | OUTER { $$ = make(node_join_type{.type = QUILLET_JOIN_LEFT}); }
-    | LEFT { $$ = make(node_join_type{.type = QUILLET_JOIN_LEFT}); }
-    | RIGHT { $$ = make(node_join_type{.type = QUILLET_JOIN_RIGHT}); }
-    | FULL { $$ = make(node_join_type{.type = QUILLET_JOIN_FULL}); }
-    | LEFT OUTER { $$ = make(node_join_type{.type = QUILLET_JOIN_LEFT}); }
+    : %empty      { $$ = make(node_join_type{.type = QUILLET_JOIN_INNER}); }
+    | INNER       { $$ = make(node_join_type{.type = QUILLET_JOIN_INNER}); }
+    | OUTER       { $$ = make(node_join_type{.type = QUILLET_JOIN_LEFT}); }
+    | LEFT        { $$ = make(node_join_type{.type = QUILLET_JOIN_LEFT}); }
+    | RIGHT       { $$ = make(node_join_type{.type = QUILLET_JOIN_RIGHT}); }
+    | FULL        { $$ = make(node_join_type{.type = QUILLET_JOIN_FULL}); }
+    | LEFT OUTER  { $$ = make(node_join_type{.type = QUILLET_JOIN_LEFT}); }
     | RIGHT OUTER { $$ = make(node_join_type{.type = QUILLET_JOIN_RIGHT}); }
-    | FULL OUTER { $$ = make(node_join_type{.type = QUILLET_JOIN_FULL}); }
+    | FULL OUTER  { $$ = make(node_join_type{.type = QUILLET_JOIN_FULL}); }
     ;
 
 join_expression
-    : %empty { $$ = nullptr; }
-    | ON expression { $$ = make(node_join_expression{.expression = $2}); }
+    : %empty                        { $$ = nullptr; }
+    | ON expression                 { $$ = make(node_join_expression{.expression = $2}); }
     | USING '(' identifier_list ')' { $$ = make(node_join_expression{.identifier_list = $3}); }
     ;
 
 table
-    : identifier { $$ = make(node_table{.identifier = $1}); }
-    | identifier identifier { $$ = make(node_table{.identifier = $1, .alias = $2}); }
+    : identifier               { $$ = make(node_table{.identifier = $1}); }
+    | identifier identifier    { $$ = make(node_table{.identifier = $1, .alias = $2}); }
     | identifier AS identifier { $$ = make(node_table{.identifier = $1, .alias = $3}); }
     ;
 
 /* The later clauses. */
 
 where_clausule
-    : %empty { $$ = nullptr; }
+    : %empty           { $$ = nullptr; }
     | WHERE expression { $$ = make(node_where_clausule{.expression = $2}); }
     ;
 
@@ -451,159 +348,150 @@ group_by_clausule
     ;
 
 having_clausule
-    : %empty { $$ = nullptr; }
+    : %empty            { $$ = nullptr; }
     | HAVING expression { $$ = make(node_having_clausule{.expression = $2}); }
     ;
 
 order_by_clausule
-    : %empty { $$ = nullptr; }
+    : %empty                 { $$ = nullptr; }
     | ORDER BY order_by_list { $$ = make(node_order_by_clausule{.order_by_list = $3}); }
     ;
 
 order_by_list
-    : order_by_list ',' order_by_item
-        { $$ = make(node_order_by_list{.order_by_list = $1, .order_by_item = $3}); }
-    | order_by_item { $$ = make(node_order_by_list{.order_by_item = $1}); }
+    : order_by_list ',' order_by_item { $$ = make(node_order_by_list{.order_by_list = $1, .order_by_item = $3}); }
+    | order_by_item                   { $$ = make(node_order_by_list{.order_by_item = $1}); }
     ;
 
 order_by_item
-    : expression { $$ = make(node_order_by_item{.type = QUILLET_SORT_ASCENDING, .expression = $1}); }
-    | expression ASC { $$ = make(node_order_by_item{.type = QUILLET_SORT_ASCENDING, .expression = $1}); }
+    : expression      { $$ = make(node_order_by_item{.type = QUILLET_SORT_ASCENDING, .expression = $1}); }
+    | expression ASC  { $$ = make(node_order_by_item{.type = QUILLET_SORT_ASCENDING, .expression = $1}); }
     | expression DESC { $$ = make(node_order_by_item{.type = QUILLET_SORT_DESCENDING, .expression = $1}); }
     ;
 
 limit_clausule
-    : %empty { $$ = nullptr; }
-    | LIMIT ALL { $$ = nullptr; }
-    | LIMIT const_integer { $$ = make(node_limit_clausule{.const_integer_1 = $2}); }
-    | LIMIT const_integer OFFSET const_integer
-        { $$ = make(node_limit_clausule{.const_integer_1 = $2, .const_integer_2 = $4}); }
-    | OFFSET const_integer { $$ = make(node_limit_clausule{.const_integer_2 = $2}); }
-    | LIMIT ALL OFFSET const_integer { $$ = make(node_limit_clausule{.const_integer_2 = $4}); }
+    : %empty                                   { $$ = nullptr; }
+    | LIMIT ALL                                { $$ = nullptr; }
+    | LIMIT const_integer                      { $$ = make(node_limit_clausule{.const_integer_1 = $2}); }
+    | LIMIT const_integer OFFSET const_integer { $$ = make(node_limit_clausule{.const_integer_1 = $2, .const_integer_2 = $4}); }
+    | OFFSET const_integer                     { $$ = make(node_limit_clausule{.const_integer_2 = $2}); }
+    | LIMIT ALL OFFSET const_integer           { $$ = make(node_limit_clausule{.const_integer_2 = $4}); }
     ;
 
 /* The select list. */
 
 distinct_select_list
-    : select_list { $$ = make(node_distinct_select_list{.select_list = $1}); }
-    | ALL select_list { $$ = make(node_distinct_select_list{.select_list = $2}); }
+    : select_list          { $$ = make(node_distinct_select_list{.select_list = $1}); }
+    | ALL select_list      { $$ = make(node_distinct_select_list{.select_list = $2}); }
     | distinct select_list { $$ = make(node_distinct_select_list{.distinct = $1, .select_list = $2}); }
     ;
 
 distinct
-    : DISTINCT { $$ = make(node_distinct{}); }
+    : DISTINCT                        { $$ = make(node_distinct{}); }
     | DISTINCT ON '(' select_list ')' { $$ = make(node_distinct{.select_list = $4}); }
     ;
 
 select_list
-    : select_item { $$ = make(node_select_list{.select_item = $1}); }
-    | select_list ',' select_item
-        { $$ = make(node_select_list{.select_list = $1, .select_item = $3}); }
+    : select_item                 { $$ = make(node_select_list{.select_item = $1}); }
+    | select_list ',' select_item { $$ = make(node_select_list{.select_list = $1, .select_item = $3}); }
     ;
 
 select_item
-    : '*' { $$ = make(node_select_item{}); }
-    | identifier '.' '*' { $$ = make(node_select_item{.identifier = $1}); }
-    | expression { $$ = make(node_select_item{.expression = $1}); }
-    | expression AS identifier
-        { $$ = make(node_select_item{.expression = $1, .identifier = $3}); }
+    : '*'                      { $$ = make(node_select_item{}); }
+    | identifier '.' '*'       { $$ = make(node_select_item{.identifier = $1}); }
+    | expression               { $$ = make(node_select_item{.expression = $1}); }
+    | expression AS identifier { $$ = make(node_select_item{.expression = $1, .identifier = $3}); }
     ;
 
 /* Expressions. The order of the alternatives is part of the language. */
 
 expression
-    : column_reference                                          { $$ = make(node_expression{.column_reference = $1}); }
-    | function_call                                      { $$ = make(node_expression{.function_call = $1}); }
-    | const_generic                                      { $$ = make(node_expression{.const_generic = $1}); }
-    | '(' expression ')'                                 { $$ = make(node_expression{.expression_1 = $2}); }
-    | expression '*' expression                          { $$ = operation("operator_multiplicity", $1, $3); }
-    | expression '/' expression                          { $$ = operation("operator_divide", $1, $3); }
-    | expression '%' expression                          { $$ = operation("operator_modulo", $1, $3); }
-    | expression '+' expression                          { $$ = operation("operator_addition", $1, $3); }
-    | expression '-' expression                          { $$ = operation("operator_substraction", $1, $3); }
-    | expression '<' expression                          { $$ = operation("operator_lesser", $1, $3); }
-    | expression '>' expression                          { $$ = operation("operator_greater", $1, $3); }
-    | expression LESS_EQUAL expression                   { $$ = operation("operator_not_greater", $1, $3); }
-    | expression GREATER_EQUAL expression                { $$ = operation("operator_not_lesser", $1, $3); }
-    | expression NOT_EQUAL expression                    { $$ = operation("operator_not_equal", $1, $3); }
-    | expression '=' expression                          { $$ = operation("operator_equal", $1, $3); }
-    | expression '^' expression                          { $$ = operation("operator_power", $1, $3); }
-    | '@' expression %prec PREFIX_ABS                    { $$ = operation("operator_abs", $2); }
-    | '-' expression %prec PREFIX_MINUS                  { $$ = operation("operator_uminus", $2); }
-    | expression AND expression                          { $$ = operation("operator_and", $1, $3); }
-    | expression OR expression                           { $$ = operation("operator_or", $1, $3); }
-    | expression SHIFT_LEFT_OP expression                { $$ = operation("operator_shift_left", $1, $3); }
-    | expression SHIFT_RIGHT_OP expression               { $$ = operation("operator_shift_right", $1, $3); }
-    | SQUARE_ROOT_OP expression %prec PREFIX_SQUARE_ROOT { $$ = operation("operator_square_root", $2); }
-    | expression CONCAT_OP expression                    { $$ = operation("operator_concatenate", $1, $3); }
-    | CUBIC_ROOT_OP expression %prec PREFIX_CUBIC_ROOT   { $$ = operation("operator_cubic_root", $2); }
-    | NOT expression %prec PREFIX_NOT                    { $$ = operation("operator_not", $2); }
-    | expression BETWEEN expression AND expression       { $$ = operation("operator_between", $1, $3, $5); }
-    | expression NOT BETWEEN expression AND expression          { $$ = operation("operator_not_between", $1, $4, $6); }
-    | expression ISNULL                                  { $$ = operation("operator_is_null", $1); }
-    | expression IS NULL                                 { $$ = operation("operator_is_null", $1); }
-    | expression NOTNULL                                 { $$ = operation("operator_is_not_null", $1); }
-    | expression IS NOT NULL                             { $$ = operation("operator_is_not_null", $1); }
-    | expression IS DISTINCT FROM expression             { $$ = operation("operator_distinct_from", $1, $5); }
-    | expression IS const_boolean                        { $$ = truth_test("operator_is", $1, $3); }
-    | expression IS NOT const_boolean                    { $$ = truth_test("operator_is_not", $1, $4); }
-    | expression LIKE expression                         { $$ = match("operator_like", $1, $3); }
-    | expression LIKE expression escape                  { $$ = match("operator_like", $1, $3, $4); }
-    | expression NOT LIKE expression                     { $$ = match("operator_not_like", $1, $4); }
-    | expression NOT LIKE expression escape              { $$ = match("operator_not_like", $1, $4, $5); }
-    | expression NOT_LIKE_OP expression escape           { $$ = match("operator_not_like", $1, $3, $4); }
-    | expression ILIKE expression                        { $$ = match("operator_ilike", $1, $3); }
-    | expression ILIKE expression escape                 { $$ = match("operator_ilike", $1, $3, $4); }
-    | expression NOT ILIKE expression                    { $$ = match("operator_not_ilike", $1, $4); }
-    | expression NOT ILIKE expression escape             { $$ = match("operator_not_ilike", $1, $4, $5); }
-    | expression NOT_ILIKE_OP expression                 { $$ = match("operator_not_ilike", $1, $3); }
-    | expression NOT_ILIKE_OP expression escape          { $$ = match("operator_not_ilike", $1, $3, $4); }
-    | expression SIMILAR TO expression                   { $$ = match("operator_similar_to", $1, $4); }
-    | expression SIMILAR TO expression escape            { $$ = match("operator_similar_to", $1, $4, $5); }
-    | expression NOT SIMILAR TO expression               { $$ = match("operator_not_similar_to", $1, $5); }
-    | expression NOT SIMILAR TO expression escape               { $$ = match("operator_not_similar_to", $1, $5, $6); }
-    | expression '~' expression                          { $$ = operation("operator_regex", $1, $3); }
-    | expression IREGEX_OP expression                    { $$ = operation("operator_iregex", $1, $3); }
-    | expression NOT_REGEX_OP expression                 { $$ = operation("operator_not_regex", $1, $3); }
-    | expression NOT_IREGEX_OP expression                { $$ = operation("operator_not_iregex", $1, $3); }
+    : column_reference                                      { $$ = make(node_expression{.column_reference = $1}); }
+    | function_call                                         { $$ = make(node_expression{.function_call = $1}); }
+    | const_generic                                         { $$ = make(node_expression{.const_generic = $1}); }
+    | '(' expression ')'                                    { $$ = make(node_expression{.expression_1 = $2}); }
+    | expression '*' expression                             { $$ = operation("operator_multiplicity", $1, $3); }
+    | expression '/' expression                             { $$ = operation("operator_divide", $1, $3); }
+    | expression '%' expression                             { $$ = operation("operator_modulo", $1, $3); }
+    | expression '+' expression                             { $$ = operation("operator_addition", $1, $3); }
+    | expression '-' expression                             { $$ = operation("operator_substraction", $1, $3); }
+    | expression '<' expression                             { $$ = operation("operator_lesser", $1, $3); }
+    | expression '>' expression                             { $$ = operation("operator_greater", $1, $3); }
+    | expression LESS_EQUAL expression                      { $$ = operation("operator_not_greater", $1, $3); }
+    | expression GREATER_EQUAL expression                   { $$ = operation("operator_not_lesser", $1, $3); }
+    | expression NOT_EQUAL expression                       { $$ = operation("operator_not_equal", $1, $3); }
+    | expression '=' expression                             { $$ = operation("operator_equal", $1, $3); }
+    | expression '^' expression                             { $$ = operation("operator_power", $1, $3); }
+    | '@' expression %prec PREFIX_ABS                       { $$ = operation("operator_abs", $2); }
+    | '-' expression %prec PREFIX_MINUS                     { $$ = operation("operator_uminus", $2); }
+    | expression AND expression                             { $$ = operation("operator_and", $1, $3); }
+    | expression OR expression                              { $$ = operation("operator_or", $1, $3); }
+    | expression SHIFT_LEFT_OP expression                   { $$ = operation("operator_shift_left", $1, $3); }
+    | expression SHIFT_RIGHT_OP expression                  { $$ = operation("operator_shift_right", $1, $3); }
+    | SQUARE_ROOT_OP expression %prec PREFIX_SQUARE_ROOT    { $$ = operation("operator_square_root", $2); }
+    | expression CONCAT_OP expression                       { $$ = operation("operator_concatenate", $1, $3); }
+    | CUBIC_ROOT_OP expression %prec PREFIX_CUBIC_ROOT      { $$ = operation("operator_cubic_root", $2); }
+    | NOT expression %prec PREFIX_NOT                       { $$ = operation("operator_not", $2); }
+    | expression BETWEEN expression AND expression          { $$ = operation("operator_between", $1, $3, $5); }
+    | expression NOT BETWEEN expression AND expression      { $$ = operation("operator_not_between", $1, $4, $6); }
+    | expression ISNULL                                     { $$ = operation("operator_is_null", $1); }
+    | expression IS NULL                                    { $$ = operation("operator_is_null", $1); }
+    | expression NOTNULL                                    { $$ = operation("operator_is_not_null", $1); }
+    | expression IS NOT NULL                                { $$ = operation("operator_is_not_null", $1); }
+    | expression IS DISTINCT FROM expression                { $$ = operation("operator_distinct_from", $1, $5); }
+    | expression IS const_boolean                           { $$ = truth_test("operator_is", $1, $3); }
+    | expression IS NOT const_boolean                       { $$ = truth_test("operator_is_not", $1, $4); }
+    | expression LIKE expression                            { $$ = match("operator_like", $1, $3); }
+    | expression LIKE expression escape                     { $$ = match("operator_like", $1, $3, $4); }
+    | expression NOT LIKE expression                        { $$ = match("operator_not_like", $1, $4); }
+    | expression NOT LIKE expression escape                 { $$ = match("operator_not_like", $1, $4, $5); }
+    | expression NOT_LIKE_OP expression escape              { $$ = match("operator_not_like", $1, $3, $4); }
+    | expression ILIKE expression                           { $$ = match("operator_ilike", $1, $3); }
+    | expression ILIKE expression escape                    { $$ = match("operator_ilike", $1, $3, $4); }
+    | expression NOT ILIKE expression                       { $$ = match("operator_not_ilike", $1, $4); }
+    | expression NOT ILIKE expression escape                { $$ = match("operator_not_ilike", $1, $4, $5); }
+    | expression NOT_ILIKE_OP expression                    { $$ = match("operator_not_ilike", $1, $3); }
+    | expression NOT_ILIKE_OP expression escape             { $$ = match("operator_not_ilike", $1, $3, $4); }
+    | expression SIMILAR TO expression                      { $$ = match("operator_similar_to", $1, $4); }
+    | expression SIMILAR TO expression escape               { $$ = match("operator_similar_to", $1, $4, $5); }
+    | expression NOT SIMILAR TO expression                  { $$ = match("operator_not_similar_to", $1, $5); }
+    | expression NOT SIMILAR TO expression escape           { $$ = match("operator_not_similar_to", $1, $5, $6); }
+    | expression '~' expression                             { $$ = operation("operator_regex", $1, $3); }
+    | expression IREGEX_OP expression                       { $$ = operation("operator_iregex", $1, $3); }
+    | expression NOT_REGEX_OP expression                    { $$ = operation("operator_not_regex", $1, $3); }
+    | expression NOT_IREGEX_OP expression                   { $$ = operation("operator_not_iregex", $1, $3); }
     | PREFIX_FACTORIAL_OP expression %prec PREFIX_FACTORIAL { $$ = operation("operator_factorial", $2); }
-    | expression '!'                                     { $$ = operation("operator_factorial", $1); }
-    | expression '&' expression                          { $$ = operation("operator_bitwise_and", $1, $3); }
-    | expression '|' expression                          { $$ = operation("operator_bitwise_or", $1, $3); }
-    | expression '#' expression                          { $$ = operation("operator_bitwise_xor", $1, $3); }
-    | '~' expression %prec PREFIX_BITWISE_NOT            { $$ = operation("operator_bitwise_not", $2); }
-    | cast_expression                                           { $$ = make(node_expression{.cast_expression = $1}); }
-    | overlaps_expression OVERLAPS overlaps_expression   { $$ = overlaps($1, $3); }
-    | case_expression                                           { $$ = make(node_expression{.case_expression = $1}); }
+    | expression '!'                                        { $$ = operation("operator_factorial", $1); }
+    | expression '&' expression                             { $$ = operation("operator_bitwise_and", $1, $3); }
+    | expression '|' expression                             { $$ = operation("operator_bitwise_or", $1, $3); }
+    | expression '#' expression                             { $$ = operation("operator_bitwise_xor", $1, $3); }
+    | '~' expression %prec PREFIX_BITWISE_NOT               { $$ = operation("operator_bitwise_not", $2); }
+    | cast_expression                                       { $$ = make(node_expression{.cast_expression = $1}); }
+    | overlaps_expression OVERLAPS overlaps_expression      { $$ = overlaps($1, $3); }
+    | case_expression                                       { $$ = make(node_expression{.case_expression = $1}); }
     ;
 
 case_expression
     : CASE expression when_list else_clausule END
-        {
-          $$ = make(node_case_expression{.expression = $2, .when_list = $3, .else_clausule = $4});
-        }
-    | CASE when_list else_clausule END
-        { $$ = make(node_case_expression{.when_list = $2, .else_clausule = $3}); }
+        { $$ = make(node_case_expression{.expression = $2, .when_list = $3, .else_clausule = $4}); }
+    | CASE when_list else_clausule END { $$ = make(node_case_expression{.when_list = $2, .else_clausule = $3}); }
     ;
 
 when_list
     : when_list when_item { $$ = make(node_when_list{.when_list = $1, .when_item = $2}); }
-    | when_item { $$ = make(node_when_list{.when_item = $1}); }
+    | when_item           { $$ = make(node_when_list{.when_item = $1}); }
     ;
 
 when_item
-    : WHEN expression THEN expression
-        { $$ = make(node_when_item{.expression_1 = $2, .expression_2 = $4}); }
+    : WHEN expression THEN expression { $$ = make(node_when_item{.expression_1 = $2, .expression_2 = $4}); }
     ;
 
 else_clausule
-    : %empty { $$ = nullptr; }
+    : %empty          { $$ = nullptr; }
     | ELSE expression { $$ = make(node_else_clausule{.expression = $2}); }
     ;
 
 overlaps_expression
-    : '(' expression ',' expression ')'
-        { $$ = make(node_overlaps_expression{.expression_1 = $2, .expression_2 = $4}); }
+    : '(' expression ',' expression ')' { $$ = make(node_overlaps_expression{.expression_1 = $2, .expression_2 = $4}); }
     ;
 
 const_string
@@ -623,143 +511,110 @@ escape
     ;
 
 const_boolean
-    : TRUE { $$ = make(node_const_boolean{.value = QUILLET_TRUTH_TRUE}); }
-    | FALSE { $$ = make(node_const_boolean{.value = QUILLET_TRUTH_FALSE}); }
+    : TRUE   { $$ = make(node_const_boolean{.value = QUILLET_TRUTH_TRUE}); }
+    | FALSE  { $$ = make(node_const_boolean{.value = QUILLET_TRUTH_FALSE}); }
     | UNKNOW { $$ = make(node_const_boolean{.value = QUILLET_TRUTH_UNKNOW}); }
     ;
 
 cast_expression
-    : CAST '(' expression AS identifier ')'
-        { $$ = make(node_cast_expression{.expression = $3, .type = type_named($5)}); }
-    | expression TYPECAST_OP identifier
-        { $$ = make(node_cast_expression{.expression = $1, .type = type_named($3)}); }
+    : CAST '(' expression AS identifier ')' { $$ = make(node_cast_expression{.expression = $3, .type = type_named($5)}); }
+    | expression TYPECAST_OP identifier     { $$ = make(node_cast_expression{.expression = $1, .type = type_named($3)}); }
     ;
 
 /* Function calls. */
 
 function_call
-    : identifier '(' ')' { $$ = make(node_function_call{.function_name = $1}); }
-    | CURRENT_DATETIME { $$ = make(node_function_call{.function_name = name($1)}); }
-    | CURRENT_DATETIME '(' ')' { $$ = make(node_function_call{.function_name = name($1)}); }
+    : identifier '(' ')'                     { $$ = make(node_function_call{.function_name = $1}); }
+    | CURRENT_DATETIME                       { $$ = make(node_function_call{.function_name = name($1)}); }
+    | CURRENT_DATETIME '(' ')'               { $$ = make(node_function_call{.function_name = name($1)}); }
     | CURRENT_DATETIME '(' expressions_list ')'
         { $$ = make(node_function_call{.function_name = name($1), .expressions_list = $3}); }
-    | identifier '(' agregate_expression ')'
-        { $$ = make(node_function_call{.function_name = $1, .agregate_expression = $3}); }
-    | identifier '(' expressions_list ')'
-        { $$ = make(node_function_call{.function_name = $1, .expressions_list = $3}); }
-    | identifier '(' using_argument ')'
-        { $$ = make(node_function_call{.function_name = $1, .using_argument = $3}); }
+    | identifier '(' agregate_expression ')' { $$ = make(node_function_call{.function_name = $1, .agregate_expression = $3}); }
+    | identifier '(' expressions_list ')'    { $$ = make(node_function_call{.function_name = $1, .expressions_list = $3}); }
+    | identifier '(' using_argument ')'      { $$ = make(node_function_call{.function_name = $1, .using_argument = $3}); }
     | identifier '(' placing_from_for_argument ')'
         { $$ = make(node_function_call{.function_name = $1, .placing_from_for_argument = $3}); }
-    | identifier '(' from_for_argument ')'
-        { $$ = make(node_function_call{.function_name = $1, .from_for_argument = $3}); }
-    | identifier '(' in_argument ')'
-        { $$ = make(node_function_call{.function_name = $1, .in_argument = $3}); }
-    | identifier '(' trim_argument ')'
-        { $$ = make(node_function_call{.function_name = $1, .trim_argument = $3}); }
+    | identifier '(' from_for_argument ')'   { $$ = make(node_function_call{.function_name = $1, .from_for_argument = $3}); }
+    | identifier '(' in_argument ')'         { $$ = make(node_function_call{.function_name = $1, .in_argument = $3}); }
+    | identifier '(' trim_argument ')'       { $$ = make(node_function_call{.function_name = $1, .trim_argument = $3}); }
     ;
 
 using_argument
-    : expression USING identifier
-        { $$ = make(node_using_argument{.expression = $1, .identifier = $3}); }
+    : expression USING identifier { $$ = make(node_using_argument{.expression = $1, .identifier = $3}); }
     ;
 
 placing_from_for_argument
-    : expression PLACING expression FROM expression
-        { $$ = placing($1, $3, $5, nullptr); }
-    | expression PLACING expression FROM expression FOR expression
-        { $$ = placing($1, $3, $5, $7); }
-    | expression PLACING expression FOR expression
-        { $$ = placing($1, $3, nullptr, $5); }
-    | expression PLACING expression
-        { $$ = placing($1, $3, nullptr, nullptr); }
+    : expression PLACING expression FROM expression                { $$ = placing($1, $3, $5, nullptr); }
+    | expression PLACING expression FROM expression FOR expression { $$ = placing($1, $3, $5, $7); }
+    | expression PLACING expression FOR expression                 { $$ = placing($1, $3, nullptr, $5); }
+    | expression PLACING expression                                { $$ = placing($1, $3, nullptr, nullptr); }
     ;
 
 from_for_argument
-    : expression FROM expression
-        { $$ = make(node_from_for_argument{.expression_1 = $1, .expression_2 = $3}); }
+    : expression FROM expression { $$ = make(node_from_for_argument{.expression_1 = $1, .expression_2 = $3}); }
     | expression FROM expression FOR expression
-        {
-          $$ = make(
-              node_from_for_argument{.expression_1 = $1, .expression_2 = $3, .expression_3 = $5});
-        }
+        { $$ = make(node_from_for_argument{.expression_1 = $1, .expression_2 = $3, .expression_3 = $5}); }
     ;
 
 in_argument
-    : expression IN expression
-        { $$ = make(node_in_argument{.expression_1 = $1, .expression_2 = $3}); }
+    : expression IN expression { $$ = make(node_in_argument{.expression_1 = $1, .expression_2 = $3}); }
     ;
 
 trim_argument
-    : LEADING expression FROM expression { $$ = trim(QUILLET_TRIM_LEADING, $2, $4); }
+    : LEADING expression FROM expression  { $$ = trim(QUILLET_TRIM_LEADING, $2, $4); }
     | TRAILING expression FROM expression { $$ = trim(QUILLET_TRIM_TRAILING, $2, $4); }
-    | BOTH expression FROM expression { $$ = trim(QUILLET_TRIM_BOTH, $2, $4); }
-    | LEADING FROM expression { $$ = trim(QUILLET_TRIM_LEADING, nullptr, $3); }
-    | TRAILING FROM expression { $$ = trim(QUILLET_TRIM_TRAILING, nullptr, $3); }
-    | BOTH FROM expression { $$ = trim(QUILLET_TRIM_BOTH, nullptr, $3); }
-    | FROM expression { $$ = trim(QUILLET_TRIM_BOTH, nullptr, $2); }
+    | BOTH expression FROM expression     { $$ = trim(QUILLET_TRIM_BOTH, $2, $4); }
+    | LEADING FROM expression             { $$ = trim(QUILLET_TRIM_LEADING, nullptr, $3); }
+    | TRAILING FROM expression            { $$ = trim(QUILLET_TRIM_TRAILING, nullptr, $3); }
+    | BOTH FROM expression                { $$ = trim(QUILLET_TRIM_BOTH, nullptr, $3); }
+    | FROM expression                     { $$ = trim(QUILLET_TRIM_BOTH, nullptr, $2); }
     ;
 
 agregate_expression
-    : DISTINCT expression
-        { $$ = make(node_agregate_expression{.type = QUILLET_AGREGATE_DISTINCT, .expression = $2}); }
-    | ALL expression { $$ = make(node_agregate_expression{.type = QUILLET_AGREGATE_ALL, .expression = $2}); }
-    | '*' { $$ = make(node_agregate_expression{.type = QUILLET_AGREGATE_STAR}); }
+    : DISTINCT expression { $$ = make(node_agregate_expression{.type = QUILLET_AGREGATE_DISTINCT, .expression = $2}); }
+    | ALL expression      { $$ = make(node_agregate_expression{.type = QUILLET_AGREGATE_ALL, .expression = $2}); }
+    | '*'                 { $$ = make(node_agregate_expression{.type = QUILLET_AGREGATE_STAR}); }
     ;
 
 expressions_list
-    : expression { $$ = make(node_expressions_list{.expression = $1}); }
-    | expressions_list ',' expression
-        { $$ = make(node_expressions_list{.expressions_list = $1, .expression = $3}); }
+    : expression                      { $$ = make(node_expressions_list{.expression = $1}); }
+    | expressions_list ',' expression { $$ = make(node_expressions_list{.expressions_list = $1, .expression = $3}); }
     ;
 
 /* Literals, columns and names. */
 
 const_generic
-    : const_boolean { $$ = make(node_const_generic{.const_boolean = $1}); }
-    | const_string { $$ = make(node_const_generic{.const_string = $1}); }
-    | const_integer { $$ = make(node_const_generic{.const_integer = $1}); }
+    : const_boolean  { $$ = make(node_const_generic{.const_boolean = $1}); }
+    | const_string   { $$ = make(node_const_generic{.const_string = $1}); }
+    | const_integer  { $$ = make(node_const_generic{.const_integer = $1}); }
     | const_floating { $$ = make(node_const_generic{.const_floating = $1}); }
-    | NULL { $$ = make(node_const_generic{}); }
+    | NULL           { $$ = make(node_const_generic{}); }
     | identifier const_string at_time_zone
-        {
-          $$ = make(
-              node_const_generic{.const_string = $2, .type = type_named($1), .at_time_zone = $3});
-        }
+        { $$ = make(node_const_generic{.const_string = $2, .type = type_named($1), .at_time_zone = $3}); }
     | identifier identifier const_string at_time_zone
-        {
-          $$ = make(node_const_generic{
-              .const_string = $3, .type = type_named($1, $2), .at_time_zone = $4});
-        }
+        { $$ = make(node_const_generic{.const_string = $3, .type = type_named($1, $2), .at_time_zone = $4}); }
     ;
 
 at_time_zone
-    : %empty { $$ = nullptr; }
-    | AT identifier ZONE const_string
-        { $$ = make(node_at_time_zone{.type = zone_type($2), .const_string = $4}); }
-    | AT identifier ZONE identifier const_string
-        { $$ = make(node_at_time_zone{.type = zone_type($2, $4), .const_string = $5}); }
+    : %empty                                     { $$ = nullptr; }
+    | AT identifier ZONE const_string            { $$ = make(node_at_time_zone{.type = zone_type($2), .const_string = $4}); }
+    | AT identifier ZONE identifier const_string { $$ = make(node_at_time_zone{.type = zone_type($2, $4), .const_string = $5}); }
     ;
 
 column_reference_list
     : column_reference_list ',' column_reference
-        {
-          $$ = make(
-              node_column_reference_list{.column_reference_list = $1, .column_reference = $3});
-        }
+        { $$ = make(node_column_reference_list{.column_reference_list = $1, .column_reference = $3}); }
     | column_reference { $$ = make(node_column_reference_list{.column_reference = $1}); }
     ;
 
 column_reference
-    : identifier { $$ = make(node_column_reference{.column_name = $1}); }
-    | identifier '.' identifier
-        { $$ = make(node_column_reference{.column_name = $3, .correlation_name = $1}); }
+    : identifier                { $$ = make(node_column_reference{.column_name = $1}); }
+    | identifier '.' identifier { $$ = make(node_column_reference{.column_name = $3, .correlation_name = $1}); }
     ;
 
 identifier_list
-    : identifier_list ',' identifier
-        { $$ = make(node_identifier_list{.identifier_list = $1, .identifier = $3}); }
-    | identifier { $$ = make(node_identifier_list{.identifier = $1}); }
+    : identifier_list ',' identifier { $$ = make(node_identifier_list{.identifier_list = $1, .identifier = $3}); }
+    | identifier                     { $$ = make(node_identifier_list{.identifier = $1}); }
     ;
 
 identifier

@@ -12,12 +12,14 @@ using namespace quillet;
 namespace {
 
 constexpr std::uint16_t tokens[] = {
-#define KEYWORD(spelling, token) TOKEN_##token,
+#define KEYWORD(word) TOKEN_##word,
+#define DATETIME(word) TOKEN_CURRENT_DATETIME,
 #include "quillet_keywords.def"
 };
 
 constexpr name_index<std::size(tokens)> keywords({
-#define KEYWORD(spelling, token) #spelling,
+#define KEYWORD(word) #word,
+#define DATETIME(word) #word,
 #include "quillet_keywords.def"
 });
 
