@@ -20,7 +20,7 @@
 
 /* What rendering leaves of the running thread's stack for the calls of a single step, for the
    system and for a host's operations: a share of its size, as a divisor, and at least so much. */
-#define QUILLET_STACK_RESERVE_SHARE 8
+#define QUILLET_STACK_RESERVE_SHARE 16
 #define QUILLET_STACK_RESERVE_MINIMUM (16UL * 1024)
 
 /* The most of a stack that is relied upon; the one that is assumed if the system does not tell; and
