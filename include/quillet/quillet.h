@@ -38,6 +38,10 @@ QUILLET_API void quillet_init(void);
 /* Ends the use of the library. */
 QUILLET_API void quillet_done(void);
 
+/* The registry, by id, which quillet_init fills; full of NULL before. The records belong to the
+   library. */
+extern QUILLET_API quillet_builder_info *quillet_builders[4];
+
 /* Returns the number of builders. */
 QUILLET_API int quillet_get_builder_count(void);
 

@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "quillet_parser.h"
+
 parse_data *quillet_query = nullptr;
 int quillet_comment_count = 0;
 

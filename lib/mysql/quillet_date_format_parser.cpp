@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include "quillet_date_format_scanner.h"
+#include "quillet_parser_tools.h"
 #include "quillet_strings_tools.h"
 
 parse_data *quillet_date_format = nullptr;
