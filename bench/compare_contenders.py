@@ -11,8 +11,8 @@ TIMEOUT = 60
 SQLGLOT = ["/usr/bin/python3", "-B", "bench/contenders/sqlglot_contender.py"]
 
 CONTENDERS = {
-    "Quillet to PostgreSQL": [BUILD / "bench/quillet_postgresql"],
-    "Quillet to MySQL": [BUILD / "bench/quillet_mysql"],
+    "Quillet to PostgreSQL": [BUILD / "bench/quillet_to_postgresql"],
+    "Quillet to MySQL": [BUILD / "bench/quillet_to_mysql"],
     "libpg_query, raw parse": [BUILD / "bench/pg_query_parse"],
     "libpg_query, parse and deparse": [BUILD / "bench/pg_query_deparse"],
     "sqlglot to PostgreSQL": [*SQLGLOT, "postgres"],

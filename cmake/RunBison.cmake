@@ -3,6 +3,11 @@
 #
 #   cmake -DBISON=... -DGRAMMAR=... -DOUTPUT=... -DHEADER=... -DSHIFT_REDUCE=n -DREDUCE_REDUCE=n
 #         -P RunBison.cmake
+
+# Its messages are read below, whatever language the user's are in.
+set(ENV{LC_ALL} C)
+set(ENV{LANGUAGE} "")
+
 execute_process(
     COMMAND ${BISON} -Wall -Wno-counterexamples --output=${OUTPUT} --defines=${HEADER} ${GRAMMAR}
     RESULT_VARIABLE result

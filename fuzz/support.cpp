@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "quillet_parser.h"
 #include "quillet_parser_tools.h"
 #include "quillet_tree_node.h"
 

@@ -1,13 +1,15 @@
-// All state of the library, one for the process; nothing else of it keeps any, but for the scanners
-// that flex generates (yy_quillet_*, and what was read on) and the builders' records in their own
-// units, which a host may change. Each piece is declared in the header of the unit that owns it.
+// All state of the library, one for the process. Each piece is declared in the header of the unit
+// that owns it. Elsewhere there are but the scanners' and the parser's own, which are generated
+// (yy...), and the four builders' records (quillet_..._builder_info), which a host may change.
 
 #include "quillet_globals.h"
 
-#include "quillet_date_format_parser.h"
+#include "quillet_builder_info.h"
+#include "quillet_date_format_scanner.h"
 #include "quillet_mysql_errors.h"
-#include "quillet_parser_tools.h"
+#include "quillet_parser.h"
 #include "quillet_rendering.h"
+#include "quillet_scanner.h"
 #include "quillet_tree_memory.h"
 
 // Owned by quillet.cpp: the registry, the last translation, our own builders.
@@ -18,11 +20,12 @@ int32_t error_code = 0;
 int32_t last_builder_id = 0;
 builder *kept_builders[4] = {};
 
-// Owned by the parser: the tree of the last parse; during a parse its text, and how deep it is in
-// comments, which the next one goes on with.
+// Owned by the parser: the tree of the last parse; during a parse its text; how deep it is in
+// comments, which the next parse goes on with; what was read on.
 node_main *root = nullptr;
 parse_data *quillet_query = nullptr;
 int quillet_comment_count = 0;
+quillet_scanner_reading _quillet_scanner_reading = {};
 
 // Owned by the date-format parser, during a parse alone.
 parse_data *quillet_date_format = nullptr;

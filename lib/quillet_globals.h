@@ -8,18 +8,16 @@
 
 #include <stdint.h>
 
-#include "quillet_builder_info.h"
 #include "quillet_parse_tree.h"
 
 #ifdef __cplusplus
 extern "C" {
 #endif
 
-extern quillet_builder_info *quillet_builders[4]; /* the registry, filled by quillet_init */
-extern const char *const error_descriptions[4];   /* by the negated code */
-extern int32_t error_code;                        /* of the last translation */
-extern int32_t last_builder_id;                   /* that the last translation asked for */
-extern struct builder *kept_builders[4];          /* our own, made when first needed and kept */
+extern const char *const error_descriptions[4]; /* by the negated code */
+extern int32_t error_code;                      /* of the last translation */
+extern int32_t last_builder_id;                 /* that the last translation asked for */
+extern struct builder *kept_builders[4];        /* our own, made when first needed and kept */
 
 #ifdef __cplusplus
 }

@@ -20,7 +20,7 @@
 #include <vector>
 
 #include "host_builder.h"
-#include "quillet_parser_tools.h"
+#include "quillet_parser.h"
 
 extern "C" {
 int yy_quillet_lex_destroy(void);

@@ -1,5 +1,6 @@
 // Patterns of TO_CHAR: their words, prefixes, suffixes, quoted text and other characters.
 #include "quillet_date_format_parser.h"
+#include "quillet_date_format_scanner.h"
 
 #include <gtest/gtest.h>
 

@@ -884,6 +884,34 @@ TEST(ParserState, AnUnfinishedCommentGoesOnInTheNextQuery) {
               "main{delete_=delete{table{identifier=t}}}");
 }
 
+TEST(ParserState, ATreeIsTakenOnce) {
+    reset_scanner();
+    ASSERT_EQ(quillet_parse("DELETE FROM t"), QUILLET_PARSE_ACCEPTED);
+    const owned<node_main> tree(quillet_take_root());
+    ASSERT_NE(tree, nullptr);
+    EXPECT_EQ(shown(*tree), "main{delete_=delete{table{identifier=t}}}");
+    EXPECT_EQ(root, nullptr);
+    EXPECT_EQ(quillet_take_root(), nullptr);
+}
+
+TEST(ParserState, AFailedParseLeavesNoTreeToTake) {
+    for (const char *statement : {"", "SELECT", "DELETE FROM t )"}) {
+        reset_scanner();
+        testing::internal::CaptureStdout();
+        EXPECT_EQ(quillet_parse(statement), QUILLET_PARSE_SYNTAX_ERROR) << statement;
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), "Error: syntax error\n") << statement;
+        EXPECT_EQ(quillet_take_root(), nullptr) << statement;
+    }
+    reset_scanner();
+}
+
+TEST(ParserState, TheQueryIsThereDuringAParseAlone) {
+    EXPECT_EQ(parse("SELECT 1").result, 0);
+    EXPECT_EQ(quillet_query, nullptr);
+    EXPECT_EQ(parse("SELECT").result, 1);
+    EXPECT_EQ(quillet_query, nullptr);
+}
+
 TEST(ParserState, ALineCommentGoesOnInTheNextQuery) {
     EXPECT_EQ(parse("DELETE FROM t -- a").result, 0);
     EXPECT_EQ(shown_tree(parse_on("b \n DELETE FROM t")),

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "quillet_concat.h"
 #include "support.h"
 
 using namespace quillet_tests;

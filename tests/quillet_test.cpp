@@ -309,6 +309,27 @@ TEST_F(Quillet, DetailsOutliveASuccess) {
     EXPECT_EQ(quillet_get_detailed_error_code(), -27);
 }
 
+// What no builder has seen leaves its reason as it was, whatever the code.
+TEST_F(Quillet, DetailsOutliveAFailureOfTheParser) {
+    const char *const reason = "LIMIT structure with only OFFSET is not supported in MySQL 4.1.13";
+    const auto keep_the_reason = [reason] {
+        EXPECT_EQ(quillet_get_detailed_error_code(), -27);
+        EXPECT_STREQ(quillet_get_detailed_error_description(), reason);
+    };
+    EXPECT_EQ(translate("select * from t offset 5", mysql).code, -3);
+    keep_the_reason();
+
+    EXPECT_EQ(translate("select from", mysql).code, -2);
+    EXPECT_STREQ(quillet_get_error_description(), "invalid query");
+    keep_the_reason();
+
+    EXPECT_EQ(translate(nested(9996), mysql).code, -3);
+    keep_the_reason();
+
+    EXPECT_EQ(translate("select a !", mysql).code, -3);
+    EXPECT_EQ(quillet_get_detailed_error_code(), -2);
+}
+
 // Builders of a test's own, in the place of one of the library's.
 
 build_result *main_of_success(builder *, node_main *, void *) {

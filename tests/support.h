@@ -17,7 +17,6 @@
 #include "quillet_builder.h"
 #include "quillet_globals.h"
 #include "quillet_parser.h"
-#include "quillet_parser_tools.h"
 #include "quillet_tree_node.h"
 
 extern "C" int yy_quillet_lex_destroy(void);

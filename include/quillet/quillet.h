@@ -57,9 +57,15 @@ QUILLET_API int quillet_translate_query(const char *input, char **output, int bu
 QUILLET_API const char *quillet_get_error_description(void);
 
 /*
- * The builder's own reason for its last refusal: a code, 0 for none, and its text, a static one;
- * NULL if the builder of the last translation has no reasons. A builder keeps its reason when a
- * later translation succeeds, so ask only after a failure, and take the text only with a code.
+ * The reason for the last refusal of the builder that the last translation asked for: a code, 0 for
+ * none, and its text, a static one that the library owns; "" for the code 0, and NULL if the
+ * builder has no reasons or does not exist.
+ *
+ * The pair tells about the last translation only right after quillet_translate_query has returned
+ * QUILLET_CAN_NOT_TRANSLATE, and even then a code of 0 means that the builder gave no reason. A
+ * builder keeps its reason until its next refusal: a success and a syntax error leave it as it is,
+ * and so does a statement too deep or too large for the parser, although its code is
+ * QUILLET_CAN_NOT_TRANSLATE as well.
  */
 QUILLET_API int quillet_get_detailed_error_code(void);
 QUILLET_API const char *quillet_get_detailed_error_description(void);

@@ -6,6 +6,8 @@
 
 #include <stdint.h>
 
+#include "quillet_export.h"
+
 #ifdef __cplusplus
 extern "C" {
 #endif
@@ -21,6 +23,10 @@ typedef struct quillet_builder_info {
     int32_t (*get_error_code)(void);            /* NULL if the builder has no codes of its own */
     const char *(*get_error_description)(void); /* likewise */
 } quillet_builder_info;
+
+/* The registry, by id, which quillet_init fills; full of NULL before. The records belong to the
+   library. */
+extern QUILLET_API quillet_builder_info *quillet_builders[4];
 
 #ifdef __cplusplus
 }

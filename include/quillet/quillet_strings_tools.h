@@ -15,10 +15,6 @@
 extern "C" {
 #endif
 
-/* Joins two texts, with a blank between two non-empty ones when space is not 0. Returns a new text
-   that the caller owns, or NULL when both are NULL. Internal: the operations below are its face. */
-char *_quillet_concat(const char *first, const char *second, int space);
-
 /* Returns first and second joined as a new text, NULL when both are NULL. */
 QUILLET_API char *quillet_concat(const char *first, const char *second);
 QUILLET_API char *quillet_concat_free_first(char *first, const char *second);

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <memory>
 
+#include "quillet_concat.h"
 #include "quillet_text_buffer.h"
 
 namespace {

@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include "quillet_date_format_scanner.h"
+#include "quillet_parser_tools.h"
 #include "quillet_strings_tools.h"
 
 date_format_node *quillet_date_format_node_create(void) {

@@ -2,10 +2,12 @@
 
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 #include "quillet_limits.h"
 #include "quillet_parse_tree.h"
 #include "quillet_parser_tools.h"
+#include "quillet_scanner.h"
 #include "quillet_tree_memory.h"
 
 extern "C" int yy_quillet_parse(void);
@@ -38,3 +40,5 @@ int quillet_parse(const char *query) {
     }
     return result;
 }
+
+node_main *quillet_take_root(void) { return std::exchange(root, nullptr); }

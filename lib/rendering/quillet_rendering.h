@@ -166,8 +166,8 @@ public:
     }
 
 private:
-    // Renders a node by an operation that belongs into its slot. In line, as nested trees are rendered
-    // with recursion: a build without optimisation has no stack for a frame more.
+    // Renders a node by an operation that belongs into its slot. In line, as nested trees are
+    // rendered with recursion: a build without optimisation has no stack for a frame more.
     template <class Node>
     [[gnu::always_inline]] rendered by(operation<Node> found, Node *node, void *data) {
         if (const dialect *home = dialect_of(slot_of<Node>::operation, found))

@@ -1,8 +1,12 @@
-/* Uses the installed library as a C program would: every header, a translation, a tree by hand. */
+/* Uses the installed library as a C program would: every header, a translation, a parse alone, a
+   tree by hand, a date format. */
 #include <quillet.h>
 #include <quillet_build_result.h>
 #include <quillet_builder.h>
+#include <quillet_date_format_parser.h>
 #include <quillet_mysql_builder.h>
+#include <quillet_parse_data.h>
+#include <quillet_parser.h>
 #include <quillet_postgresql_builder.h>
 #include <quillet_strings_tools.h>
 #include <quillet_tree_node.h>
@@ -44,6 +48,45 @@ static void translate(void) {
     quillet_done();
 }
 
+static void look_at_registry(void) {
+    quillet_init();
+    expect_text("a builder", quillet_builders[3]->builder_name, "type_view");
+    expect_number("its id", quillet_builders[3]->builder_id, 3);
+    quillet_done();
+}
+
+static void parse_alone(void) {
+    builder *plain = quillet_default_builder_create();
+    node_main *tree;
+    build_result *result;
+    expect_number("a parse", quillet_parse("select a from t where b"), QUILLET_PARSE_ACCEPTED);
+    expect_number("the query after it", quillet_query != NULL, 0);
+    expect_number("the comments", quillet_comment_count, 0);
+    tree = quillet_take_root();
+    expect_number("a second tree", quillet_take_root() != NULL, 0);
+    result = quillet_call_build_main(plain, tree, NULL);
+    expect_text("the parsed statement", result->query, "SELECT a FROM t WHERE b");
+    free(result->query);
+    free(result);
+    quillet_node_main_free(tree);
+    quillet_builder_free(plain);
+    expect_number("a wrong one", quillet_parse("select from"), QUILLET_PARSE_SYNTAX_ERROR);
+    expect_number("its tree", quillet_take_root() != NULL, 0);
+}
+
+static void parse_date_format(void) {
+    date_format_node *words = quillet_date_format_parse("FMDDth\"of\"");
+    date_format_node *lone = quillet_date_format_node_create();
+    expect_number("a prefix", words->prefix, DATE_FORMAT_PREFIX_FM);
+    expect_number("a word", words->format, DATE_FORMAT_DD);
+    expect_number("a suffix", words->suffix, DATE_FORMAT_SUFFIX_TH_LOWER);
+    expect_text("a text", words->next->string, "of");
+    expect_number("the end", words->next->next != NULL, 0);
+    expect_number("a word of none", lone->format, 0);
+    quillet_date_format_node_free(words);
+    quillet_date_format_node_free(lone);
+}
+
 static build_result *render_shouting(builder *self, node_identifier *node, void *data) {
     build_result *result = quillet_call_parent_build_identifier(self, node, data);
     result->query = quillet_concat_free_first(result->query, "!");
@@ -67,6 +110,9 @@ static void render_by_hand(void) {
 
 int main(void) {
     translate();
+    look_at_registry();
+    parse_alone();
+    parse_date_format();
     render_by_hand();
     expect_text("a type", quillet_type_to_string(QUILLET_TYPE_INT8), "INT8");
     expect_number("its code", quillet_string_to_type("bigint"), QUILLET_TYPE_INT8);

@@ -1,0 +1,21 @@
+/*
+ * A text being scanned.
+ */
+#ifndef QUILLET_PARSE_DATA_H
+#define QUILLET_PARSE_DATA_H
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+typedef struct parse_data {
+    char *string; /* a copy of the text, owned */
+    int length;
+    int pos; /* how much the scanner has got: 0 <= pos <= length */
+} parse_data;
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
