@@ -55,7 +55,7 @@ constexpr std::array<function_rule, function_count> functions = [] {
     return rules;
 }();
 
-template <const auto &Rule, class Node> rendered render_kind(rendering &r, Node *node, void *data) {
+template <const auto &Rule, class Node> outcome render_kind(rendering &r, Node *node, void *data) {
     return r.by_rule(Rule, mysql_dialect, node, data);
 }
 

@@ -82,7 +82,7 @@ void begin_cast(rendering &r, int type) {
         r.out.append(cast_begin);
 }
 
-rendered end_cast(rendering &r, int type, output::place begin, const rendered &operand) {
+outcome end_cast(rendering &r, int type, output::place begin, const outcome &operand) {
     const cast_target target = target_of(uncast_type, type);
     switch (target.form) {
     case cast_form::named: append_cast_end(r.out, target); break;
@@ -102,16 +102,16 @@ rendered end_cast(rendering &r, int type, output::place begin, const rendered &o
 
 const cast_rule cast = {
     [](rendering &r, const node_cast_expression &node) { begin_cast(r, node.type); },
-    [](rendering &r, node_cast_expression &node, output::place begin, rendered expression) {
+    [](rendering &r, node_cast_expression &node, output::place begin, outcome expression) {
         node.sql_type = node.type;
         return end_cast(r, node.type, begin, expression);
     }};
 
-rendered render_cast_expression(rendering &r, node_cast_expression *node, void *) {
+outcome render_cast_expression(rendering &r, node_cast_expression *node, void *) {
     return render_cast(r, cast, node);
 }
 
-rendered render_const_generic(rendering &r, node_const_generic *node, void *data) {
+outcome render_const_generic(rendering &r, node_const_generic *node, void *data) {
     if (node->type == QUILLET_TYPE_UNKNOWN)
         return r.defer(node, data);
     if (!node->const_string)
@@ -120,7 +120,7 @@ rendered render_const_generic(rendering &r, node_const_generic *node, void *data
         return refuse(reason::AT_TIME_ZONE);
     const output::place begin = r.out.here();
     begin_cast(r, node->type);
-    const rendered string = r.child(node->const_string);
+    const outcome string = r.child(node->const_string);
     node->sql_type = node->type;
     return end_cast(r, node->type, begin, string);
 }

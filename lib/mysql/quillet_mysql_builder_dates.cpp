@@ -63,8 +63,8 @@ char *extracted(const date_field *field, const char *date_expression, int type) 
 constexpr text_template truncation("DATE_FORMAT($1, '$2')");
 
 // EXTRACT and DATE_PART, the name of whose field has been rendered.
-rendered render_field(rendering &r, node_function_call *call, std::string_view name,
-                      const rendered &rendered_name, node_expression *source) {
+outcome render_field(rendering &r, node_function_call *call, std::string_view name,
+                     const outcome &rendered_name, node_expression *source) {
     operands all(r);
     all.fail_with(rendered_name);
     const int type = all.add(source).record ? source->sql_type : 0;
@@ -77,28 +77,28 @@ rendered render_field(rendering &r, node_function_call *call, std::string_view n
 
 } // namespace
 
-rendered render_date_part(rendering &r, node_function_call *call, void *) {
+outcome render_date_part(rendering &r, node_function_call *call, void *) {
     node_expression *field = previous_argument(*call);
     node_expression *source = last_argument(*call);
     if (!field || !source)
         return missing_part;
     std::string name;
-    const rendered rendered_name = r.taken_child(field, name);
+    const outcome rendered_name = r.taken_child(field, name);
     return render_field(r, call, without_quotes(name), rendered_name, source);
 }
 
-rendered render_extract(rendering &r, node_function_call *call, void *) {
+outcome render_extract(rendering &r, node_function_call *call, void *) {
     const node_from_for_argument *argument = call->from_for_argument;
     const node_expression *field = argument ? argument->expression_1 : nullptr;
     const node_column_reference *column = field ? field->column_reference : nullptr;
     if (!column || !column->column_name || !argument->expression_2)
         return missing_part;
     std::string name;
-    const rendered rendered_name = r.taken_child(column->column_name, name);
+    const outcome rendered_name = r.taken_child(column->column_name, name);
     return render_field(r, call, name, rendered_name, argument->expression_2);
 }
 
-rendered render_date_trunc(rendering &r, node_function_call *call, void *) {
+outcome render_date_trunc(rendering &r, node_function_call *call, void *) {
     node_expression *field = previous_argument(*call);
     node_expression *source = last_argument(*call);
     if (!field || !source)

@@ -72,7 +72,7 @@ bool append_mask(text_buffer &out, std::string_view pattern) {
 
 } // namespace
 
-rendered render_to_char(rendering &r, node_function_call *call, void *) {
+outcome render_to_char(rendering &r, node_function_call *call, void *) {
     static constexpr text_template text("DATE_FORMAT($1, '$2')");
     node_expression *value = previous_argument(*call);
     const node_expression *pattern = last_argument(*call);
@@ -80,7 +80,7 @@ rendered render_to_char(rendering &r, node_function_call *call, void *) {
     if (!value || !literal || !literal->const_string)
         return missing_part;
     operands all(r);
-    const rendered rendered_value = all.add(value);
+    const outcome rendered_value = all.add(value);
     std::string quoted_pattern;
     all.fail_with(r.taken_child(literal->const_string, quoted_pattern));
     if (!rendered_value.record || !quillet_is_datetime_not_interval(value->sql_type)) {
@@ -90,7 +90,7 @@ rendered render_to_char(rendering &r, node_function_call *call, void *) {
     text_buffer mask;
     const bool is_known = append_mask(mask, without_quotes(quoted_pattern));
     all.add_text(mask.from(0));
-    rendered result = all.write(text);
+    outcome result = all.write(text);
     if (!is_known)
         result.fail_with(refuse(reason::DEFAULT_VALUE));
     return result;

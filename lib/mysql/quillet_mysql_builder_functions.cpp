@@ -8,7 +8,7 @@ namespace quillet::mysql {
 
 namespace {
 
-rendered typed(node_function_call *call, int type, const rendered &result) {
+outcome typed(node_function_call *call, int type, const outcome &result) {
     call->sql_type = type;
     return result;
 }
@@ -21,7 +21,7 @@ bool has_one_argument(const node_function_call &call) {
 
 // A lone argument is a number whose logarithm to the base 10 is wanted; a call with a base is
 // written as it stands.
-rendered render_log(rendering &r, node_function_call *call, void *) {
+outcome render_log(rendering &r, node_function_call *call, void *) {
     static constexpr text_template to_base_10("LOG(10, $1)");
     static constexpr text_template to_any_base("$1($2)");
     if (!last_argument(*call))
@@ -37,7 +37,7 @@ rendered render_log(rendering &r, node_function_call *call, void *) {
     return typed(call, QUILLET_TYPE_FLOAT8, all.write(to_any_base));
 }
 
-rendered render_trunc(rendering &r, node_function_call *call, void *) {
+outcome render_trunc(rendering &r, node_function_call *call, void *) {
     static constexpr text_template to_integer("TRUNCATE($1, 0)");
     static constexpr text_template to_decimals("TRUNCATE($1)");
     if (!last_argument(*call))
@@ -51,7 +51,7 @@ rendered render_trunc(rendering &r, node_function_call *call, void *) {
     return typed(call, QUILLET_TYPE_INT8, all.write(text));
 }
 
-rendered render_overlay(rendering &r, node_function_call *call, void *) {
+outcome render_overlay(rendering &r, node_function_call *call, void *) {
     static constexpr text_template text("CONCAT(SUBSTR($1, 1, $3 - 1), $2, SUBSTR($1, $3 + $4))");
     const node_placing_from_for_argument *argument = call->placing_from_for_argument;
     if (!argument || !argument->expression_1 || !argument->expression_2)
@@ -67,11 +67,11 @@ rendered render_overlay(rendering &r, node_function_call *call, void *) {
 }
 
 // A start or length that is no integer would be a pattern: that is refused, with the text in place.
-rendered render_substring(rendering &r, node_function_call *call, void *) {
+outcome render_substring(rendering &r, node_function_call *call, void *) {
     node_placing_from_for_argument *argument = call->placing_from_for_argument;
     if (!argument)
         return missing_part;
-    rendered result = r.enclosed_child("SUBSTRING(", argument, ")");
+    outcome result = r.enclosed_child("SUBSTRING(", argument, ")");
     if (argument->sql_type != QUILLET_TYPE_INT8)
         result.fail_with(refuse(reason::SUBSTRING_PATTERN));
     return typed(call, QUILLET_TYPE_VARCHAR, result);
@@ -88,8 +88,8 @@ std::string_view literal_argument(const node_expression &argument) {
 
 // Trims one character by TRIM, blanks by a function, and refuses more; characters that are not a
 // literal are left out.
-rendered render_trim(rendering &r, node_function_call *call, const text_template &blanks,
-                     const text_template &character) {
+outcome render_trim(rendering &r, node_function_call *call, const text_template &blanks,
+                    const text_template &character) {
     static constexpr std::string_view blank_literal = "' '";
     node_expression *last = last_argument(*call);
     node_expression *previous = previous_argument(*call);
@@ -112,7 +112,7 @@ rendered render_trim(rendering &r, node_function_call *call, const text_template
         all.add_text(trimmed);
         return all.write(character);
     }
-    rendered result = all.write(blanks);
+    outcome result = all.write(blanks);
     if (trimmed != blank_literal)
         result.fail_with(refuse(reason::TRIM_CHARACTERS));
     return result;
@@ -120,13 +120,13 @@ rendered render_trim(rendering &r, node_function_call *call, const text_template
 
 } // namespace
 
-rendered render_ltrim(rendering &r, node_function_call *call, void *) {
+outcome render_ltrim(rendering &r, node_function_call *call, void *) {
     static constexpr text_template blanks("LTRIM($1)");
     static constexpr text_template character("TRIM(LEADING $2 FROM $1)");
     return render_trim(r, call, blanks, character);
 }
 
-rendered render_rtrim(rendering &r, node_function_call *call, void *) {
+outcome render_rtrim(rendering &r, node_function_call *call, void *) {
     static constexpr text_template blanks("RTRIM($1)");
     static constexpr text_template character("TRIM(TRAILING $2 FROM $1)");
     return render_trim(r, call, blanks, character);

@@ -6,7 +6,7 @@
 namespace quillet::mysql {
 
 // An interval as the end of a period is counted from its start.
-rendered render_overlaps(rendering &r, node_expression *node, void *) {
+outcome render_overlaps(rendering &r, node_expression *node, void *) {
     static constexpr text_template texts[] = {
         text_template("(NOT (($4 < $1) OR ($3 > $2)))"),
         text_template("(NOT (($4 < $1) OR ($3 > ($1 + $2))))"),

@@ -5,7 +5,7 @@
 
 namespace quillet::mysql {
 
-rendered render_const_boolean(rendering &r, node_const_boolean *node, void *) {
+outcome render_const_boolean(rendering &r, node_const_boolean *node, void *) {
     r.out.append(node->value == QUILLET_TRUTH_TRUE    ? "1"
                  : node->value == QUILLET_TRUTH_FALSE ? "0"
                                                       : "NULL");
@@ -14,12 +14,12 @@ rendered render_const_boolean(rendering &r, node_const_boolean *node, void *) {
 }
 
 // MySQL takes the offset first.
-rendered render_limit_clausule(rendering &r, node_limit_clausule *node, void *) {
+outcome render_limit_clausule(rendering &r, node_limit_clausule *node, void *) {
     static constexpr text_template count_alone("LIMIT $1");
     static constexpr text_template count_and_offset("LIMIT $2,$1");
     operands both(r);
-    const rendered count = both.add(node->const_integer_1);
-    const rendered offset = node->const_integer_2 ? both.add(node->const_integer_2) : absent;
+    const outcome count = both.add(node->const_integer_1);
+    const outcome offset = node->const_integer_2 ? both.add(node->const_integer_2) : absent;
     if (!count.text) {
         both.drop();
         return refuse(reason::OFFSET_ALONE);
@@ -28,9 +28,9 @@ rendered render_limit_clausule(rendering &r, node_limit_clausule *node, void *) 
 }
 
 // A truth value is shown as PostgreSQL shows it, as a word.
-rendered render_select_item(rendering &r, node_select_item *node, void *) {
+outcome render_select_item(rendering &r, node_select_item *node, void *) {
     const output::gap before = r.out.leave_gap();
-    rendered expression = r.child(node->expression);
+    outcome expression = r.child(node->expression);
     if (expression.record && node->expression->sql_type == QUILLET_TYPE_BOOL) {
         r.out.fill(before, "IF(");
         r.out.append(", 'TRUE', 'FALSE')");
@@ -40,7 +40,7 @@ rendered render_select_item(rendering &r, node_select_item *node, void *) {
 }
 
 // A double quote at either end becomes a backquote.
-rendered render_identifier(rendering &r, node_identifier *node, void *) {
+outcome render_identifier(rendering &r, node_identifier *node, void *) {
     if (!node->name)
         return missing_part;
     const output::place begin = r.out.here();
@@ -50,8 +50,8 @@ rendered render_identifier(rendering &r, node_identifier *node, void *) {
 }
 
 // DEFAULT needs the name of its column, which the list of values hands over as data.
-rendered render_expression_or_default_item(rendering &r, node_expression_or_default_item *node,
-                                           void *data) {
+outcome render_expression_or_default_item(rendering &r, node_expression_or_default_item *node,
+                                          void *data) {
     if (node->expression)
         return r.defer(node, data);
     const auto *column = static_cast<const node_identifier *>(data);

@@ -9,7 +9,7 @@ const char *const mysql_error_descriptions[40] = {
 
 void mysql::keep_reason(std::int32_t code) { mysql_error_code = code; }
 
-rendered mysql::refuse(reason why) {
+outcome mysql::refuse(reason why) {
     keep_reason(static_cast<std::int32_t>(why));
     return refused_part;
 }

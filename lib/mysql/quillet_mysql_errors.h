@@ -24,7 +24,7 @@ enum class reason : std::int32_t {
 void keep_reason(std::int32_t code);
 
 // Refuses a construct, which then has no text, unless it says otherwise.
-rendered refuse(reason why);
+outcome refuse(reason why);
 
 } // namespace quillet::mysql
 

@@ -44,27 +44,27 @@ namespace mysql {
 
 // The renderers that the rows of quillet_mysql_slots.def name.
 
-rendered render_select_item(rendering &r, node_select_item *node, void *);
-rendered render_const_boolean(rendering &r, node_const_boolean *node, void *);
-rendered render_limit_clausule(rendering &r, node_limit_clausule *node, void *);
-rendered render_cast_expression(rendering &r, node_cast_expression *node, void *);
-rendered render_const_generic(rendering &r, node_const_generic *node, void *data);
-rendered render_expression_or_default_item(rendering &r, node_expression_or_default_item *node,
-                                           void *data);
-rendered render_identifier(rendering &r, node_identifier *node, void *);
+outcome render_select_item(rendering &r, node_select_item *node, void *);
+outcome render_const_boolean(rendering &r, node_const_boolean *node, void *);
+outcome render_limit_clausule(rendering &r, node_limit_clausule *node, void *);
+outcome render_cast_expression(rendering &r, node_cast_expression *node, void *);
+outcome render_const_generic(rendering &r, node_const_generic *node, void *data);
+outcome render_expression_or_default_item(rendering &r, node_expression_or_default_item *node,
+                                          void *data);
+outcome render_identifier(rendering &r, node_identifier *node, void *);
 
-rendered render_overlaps(rendering &r, node_expression *node, void *);
+outcome render_overlaps(rendering &r, node_expression *node, void *);
 
-rendered render_log(rendering &r, node_function_call *call, void *);
-rendered render_trunc(rendering &r, node_function_call *call, void *);
-rendered render_overlay(rendering &r, node_function_call *call, void *);
-rendered render_substring(rendering &r, node_function_call *call, void *);
-rendered render_ltrim(rendering &r, node_function_call *call, void *);
-rendered render_rtrim(rendering &r, node_function_call *call, void *);
-rendered render_date_part(rendering &r, node_function_call *call, void *);
-rendered render_extract(rendering &r, node_function_call *call, void *);
-rendered render_date_trunc(rendering &r, node_function_call *call, void *);
-rendered render_to_char(rendering &r, node_function_call *call, void *);
+outcome render_log(rendering &r, node_function_call *call, void *);
+outcome render_trunc(rendering &r, node_function_call *call, void *);
+outcome render_overlay(rendering &r, node_function_call *call, void *);
+outcome render_substring(rendering &r, node_function_call *call, void *);
+outcome render_ltrim(rendering &r, node_function_call *call, void *);
+outcome render_rtrim(rendering &r, node_function_call *call, void *);
+outcome render_date_part(rendering &r, node_function_call *call, void *);
+outcome render_extract(rendering &r, node_function_call *call, void *);
+outcome render_date_trunc(rendering &r, node_function_call *call, void *);
+outcome render_to_char(rendering &r, node_function_call *call, void *);
 
 // How casts are rendered; the status of what is cast is lost.
 extern const cast_rule cast;

@@ -409,35 +409,35 @@ expression
     | function_call                                         { $$ = make(node_expression{.function_call = $1}); }
     | const_generic                                         { $$ = make(node_expression{.const_generic = $1}); }
     | '(' expression ')'                                    { $$ = make(node_expression{.expression_1 = $2}); }
-    | expression '*' expression                             { $$ = operation("operator_multiplicity", $1, $3); }
-    | expression '/' expression                             { $$ = operation("operator_divide", $1, $3); }
-    | expression '%' expression                             { $$ = operation("operator_modulo", $1, $3); }
-    | expression '+' expression                             { $$ = operation("operator_addition", $1, $3); }
-    | expression '-' expression                             { $$ = operation("operator_substraction", $1, $3); }
-    | expression '<' expression                             { $$ = operation("operator_lesser", $1, $3); }
-    | expression '>' expression                             { $$ = operation("operator_greater", $1, $3); }
-    | expression LESS_EQUAL expression                      { $$ = operation("operator_not_greater", $1, $3); }
-    | expression GREATER_EQUAL expression                   { $$ = operation("operator_not_lesser", $1, $3); }
-    | expression NOT_EQUAL expression                       { $$ = operation("operator_not_equal", $1, $3); }
-    | expression '=' expression                             { $$ = operation("operator_equal", $1, $3); }
-    | expression '^' expression                             { $$ = operation("operator_power", $1, $3); }
-    | '@' expression %prec PREFIX_ABS                       { $$ = operation("operator_abs", $2); }
-    | '-' expression %prec PREFIX_MINUS                     { $$ = operation("operator_uminus", $2); }
-    | expression AND expression                             { $$ = operation("operator_and", $1, $3); }
-    | expression OR expression                              { $$ = operation("operator_or", $1, $3); }
-    | expression SHIFT_LEFT_OP expression                   { $$ = operation("operator_shift_left", $1, $3); }
-    | expression SHIFT_RIGHT_OP expression                  { $$ = operation("operator_shift_right", $1, $3); }
-    | SQUARE_ROOT_OP expression %prec PREFIX_SQUARE_ROOT    { $$ = operation("operator_square_root", $2); }
-    | expression CONCAT_OP expression                       { $$ = operation("operator_concatenate", $1, $3); }
-    | CUBIC_ROOT_OP expression %prec PREFIX_CUBIC_ROOT      { $$ = operation("operator_cubic_root", $2); }
-    | NOT expression %prec PREFIX_NOT                       { $$ = operation("operator_not", $2); }
-    | expression BETWEEN expression AND expression          { $$ = operation("operator_between", $1, $3, $5); }
-    | expression NOT BETWEEN expression AND expression      { $$ = operation("operator_not_between", $1, $4, $6); }
-    | expression ISNULL                                     { $$ = operation("operator_is_null", $1); }
-    | expression IS NULL                                    { $$ = operation("operator_is_null", $1); }
-    | expression NOTNULL                                    { $$ = operation("operator_is_not_null", $1); }
-    | expression IS NOT NULL                                { $$ = operation("operator_is_not_null", $1); }
-    | expression IS DISTINCT FROM expression                { $$ = operation("operator_distinct_from", $1, $5); }
+    | expression '*' expression                             { $$ = apply("operator_multiplicity", $1, $3); }
+    | expression '/' expression                             { $$ = apply("operator_divide", $1, $3); }
+    | expression '%' expression                             { $$ = apply("operator_modulo", $1, $3); }
+    | expression '+' expression                             { $$ = apply("operator_addition", $1, $3); }
+    | expression '-' expression                             { $$ = apply("operator_substraction", $1, $3); }
+    | expression '<' expression                             { $$ = apply("operator_lesser", $1, $3); }
+    | expression '>' expression                             { $$ = apply("operator_greater", $1, $3); }
+    | expression LESS_EQUAL expression                      { $$ = apply("operator_not_greater", $1, $3); }
+    | expression GREATER_EQUAL expression                   { $$ = apply("operator_not_lesser", $1, $3); }
+    | expression NOT_EQUAL expression                       { $$ = apply("operator_not_equal", $1, $3); }
+    | expression '=' expression                             { $$ = apply("operator_equal", $1, $3); }
+    | expression '^' expression                             { $$ = apply("operator_power", $1, $3); }
+    | '@' expression %prec PREFIX_ABS                       { $$ = apply("operator_abs", $2); }
+    | '-' expression %prec PREFIX_MINUS                     { $$ = apply("operator_uminus", $2); }
+    | expression AND expression                             { $$ = apply("operator_and", $1, $3); }
+    | expression OR expression                              { $$ = apply("operator_or", $1, $3); }
+    | expression SHIFT_LEFT_OP expression                   { $$ = apply("operator_shift_left", $1, $3); }
+    | expression SHIFT_RIGHT_OP expression                  { $$ = apply("operator_shift_right", $1, $3); }
+    | SQUARE_ROOT_OP expression %prec PREFIX_SQUARE_ROOT    { $$ = apply("operator_square_root", $2); }
+    | expression CONCAT_OP expression                       { $$ = apply("operator_concatenate", $1, $3); }
+    | CUBIC_ROOT_OP expression %prec PREFIX_CUBIC_ROOT      { $$ = apply("operator_cubic_root", $2); }
+    | NOT expression %prec PREFIX_NOT                       { $$ = apply("operator_not", $2); }
+    | expression BETWEEN expression AND expression          { $$ = apply("operator_between", $1, $3, $5); }
+    | expression NOT BETWEEN expression AND expression      { $$ = apply("operator_not_between", $1, $4, $6); }
+    | expression ISNULL                                     { $$ = apply("operator_is_null", $1); }
+    | expression IS NULL                                    { $$ = apply("operator_is_null", $1); }
+    | expression NOTNULL                                    { $$ = apply("operator_is_not_null", $1); }
+    | expression IS NOT NULL                                { $$ = apply("operator_is_not_null", $1); }
+    | expression IS DISTINCT FROM expression                { $$ = apply("operator_distinct_from", $1, $5); }
     | expression IS const_boolean                           { $$ = truth_test("operator_is", $1, $3); }
     | expression IS NOT const_boolean                       { $$ = truth_test("operator_is_not", $1, $4); }
     | expression LIKE expression                            { $$ = match("operator_like", $1, $3); }
@@ -455,16 +455,16 @@ expression
     | expression SIMILAR TO expression escape               { $$ = match("operator_similar_to", $1, $4, $5); }
     | expression NOT SIMILAR TO expression                  { $$ = match("operator_not_similar_to", $1, $5); }
     | expression NOT SIMILAR TO expression escape           { $$ = match("operator_not_similar_to", $1, $5, $6); }
-    | expression '~' expression                             { $$ = operation("operator_regex", $1, $3); }
-    | expression IREGEX_OP expression                       { $$ = operation("operator_iregex", $1, $3); }
-    | expression NOT_REGEX_OP expression                    { $$ = operation("operator_not_regex", $1, $3); }
-    | expression NOT_IREGEX_OP expression                   { $$ = operation("operator_not_iregex", $1, $3); }
-    | PREFIX_FACTORIAL_OP expression %prec PREFIX_FACTORIAL { $$ = operation("operator_factorial", $2); }
-    | expression '!'                                        { $$ = operation("operator_factorial", $1); }
-    | expression '&' expression                             { $$ = operation("operator_bitwise_and", $1, $3); }
-    | expression '|' expression                             { $$ = operation("operator_bitwise_or", $1, $3); }
-    | expression '#' expression                             { $$ = operation("operator_bitwise_xor", $1, $3); }
-    | '~' expression %prec PREFIX_BITWISE_NOT               { $$ = operation("operator_bitwise_not", $2); }
+    | expression '~' expression                             { $$ = apply("operator_regex", $1, $3); }
+    | expression IREGEX_OP expression                       { $$ = apply("operator_iregex", $1, $3); }
+    | expression NOT_REGEX_OP expression                    { $$ = apply("operator_not_regex", $1, $3); }
+    | expression NOT_IREGEX_OP expression                   { $$ = apply("operator_not_iregex", $1, $3); }
+    | PREFIX_FACTORIAL_OP expression %prec PREFIX_FACTORIAL { $$ = apply("operator_factorial", $2); }
+    | expression '!'                                        { $$ = apply("operator_factorial", $1); }
+    | expression '&' expression                             { $$ = apply("operator_bitwise_and", $1, $3); }
+    | expression '|' expression                             { $$ = apply("operator_bitwise_or", $1, $3); }
+    | expression '#' expression                             { $$ = apply("operator_bitwise_xor", $1, $3); }
+    | '~' expression %prec PREFIX_BITWISE_NOT               { $$ = apply("operator_bitwise_not", $2); }
     | cast_expression                                       { $$ = make(node_expression{.cast_expression = $1}); }
     | overlaps_expression OVERLAPS overlaps_expression      { $$ = overlaps($1, $3); }
     | case_expression                                       { $$ = make(node_expression{.case_expression = $1}); }

@@ -41,9 +41,8 @@ inline char *text_copy(std::string_view text) {
 
 // Operator applications.
 
-inline node_expression *operation(std::string_view name, node_expression *first,
-                                  node_expression *second = nullptr,
-                                  node_expression *third = nullptr) {
+inline node_expression *apply(std::string_view name, node_expression *first,
+                              node_expression *second = nullptr, node_expression *third = nullptr) {
     return make(node_expression{.operator_ = text_copy(name),
                                 .expression_1 = first,
                                 .expression_2 = second,

@@ -6,26 +6,26 @@
 
 namespace quillet {
 
-rendered render_expression(rendering &r, node_expression *node, void *) {
+outcome render_expression(rendering &r, node_expression *node, void *) {
     return render_framed_expression(r, node, nullptr);
 }
 
-rendered render_overlaps_expression(rendering &r, node_overlaps_expression *node, void *) {
+outcome render_overlaps_expression(rendering &r, node_overlaps_expression *node, void *) {
     if (!node->expression_1 || !node->expression_2)
         return missing_part;
-    rendered result = r.enclosed_child("", node->expression_1, ", ");
+    outcome result = r.enclosed_child("", node->expression_1, ", ");
     result.fail_with(r.child(node->expression_2));
     return result;
 }
 
 // CASE. Its end has a blank of its own, which stays when there is no ELSE before it.
 
-rendered render_case_expression(rendering &r, node_case_expression *node, void *) {
+outcome render_case_expression(rendering &r, node_case_expression *node, void *) {
     if (!node->when_list)
         return missing_part;
     r.out.append("CASE ");
     const output::place begin = r.out.here();
-    rendered result = a_text;
+    outcome result = a_text;
     result.fail_with(r.child(node->expression));
     result.fail_with(r.spaced_child(begin, node->when_list));
     if (r.out.has_grown_since(begin))
@@ -35,20 +35,20 @@ rendered render_case_expression(rendering &r, node_case_expression *node, void *
     return result;
 }
 
-rendered render_when_list(rendering &r, node_when_list *node, void *data) {
+outcome render_when_list(rendering &r, node_when_list *node, void *data) {
     return render_list<&node_when_list::when_list, &node_when_list::when_item>(r, node, data,
                                                                                blank);
 }
 
-rendered render_when_item(rendering &r, node_when_item *node, void *) {
+outcome render_when_item(rendering &r, node_when_item *node, void *) {
     if (!node->expression_1 || !node->expression_2)
         return missing_part;
-    rendered result = r.enclosed_child("WHEN ", node->expression_1, " THEN ");
+    outcome result = r.enclosed_child("WHEN ", node->expression_1, " THEN ");
     result.fail_with(r.child(node->expression_2));
     return result;
 }
 
-rendered render_else_clausule(rendering &r, node_else_clausule *node, void *) {
+outcome render_else_clausule(rendering &r, node_else_clausule *node, void *) {
     if (!node->expression)
         return missing_part;
     return r.enclosed_child("ELSE ", node->expression);

@@ -17,11 +17,11 @@ constexpr name_index<function_count> function_names({
 
 } // namespace
 
-rendered render_function_call(rendering &r, node_function_call *node, void *) {
+outcome render_function_call(rendering &r, node_function_call *node, void *) {
     if (!node->function_name)
         return missing_part;
     const output::place begin = r.out.here();
-    rendered result = r.child(node->function_name);
+    outcome result = r.child(node->function_name);
     const int index = result.text ? function_names.find(r.out.text_since(begin)) : -1;
     if (index >= 0) {
         const auto slot = function_slots[index];
@@ -46,15 +46,15 @@ rendered render_function_call(rendering &r, node_function_call *node, void *) {
     return {true, true, argument.status() ? argument.status() : result.status};
 }
 
-rendered render_expressions_list(rendering &r, node_expressions_list *node, void *data) {
+outcome render_expressions_list(rendering &r, node_expressions_list *node, void *data) {
     return render_list<&node_expressions_list::expressions_list,
                        &node_expressions_list::expression>(r, node, data, comma);
 }
 
-rendered render_agregate_expression(rendering &r, node_agregate_expression *node, void *) {
+outcome render_agregate_expression(rendering &r, node_agregate_expression *node, void *) {
     const output::place begin = r.out.here();
     r.out.append(node->type == QUILLET_AGREGATE_DISTINCT ? "DISTINCT " : "ALL ");
-    const rendered expression = r.child(node->expression);
+    const outcome expression = r.child(node->expression);
     switch (node->type) {
     case QUILLET_AGREGATE_DISTINCT:
     case QUILLET_AGREGATE_ALL: return {true, true, expression.status};
@@ -66,39 +66,39 @@ rendered render_agregate_expression(rendering &r, node_agregate_expression *node
     return {true, node->type == QUILLET_AGREGATE_STAR, expression.status};
 }
 
-rendered render_using_argument(rendering &r, node_using_argument *node, void *) {
+outcome render_using_argument(rendering &r, node_using_argument *node, void *) {
     if (!node->expression || !node->identifier)
         return missing_part;
-    rendered result = r.enclosed_child("", node->expression, " USING ");
+    outcome result = r.enclosed_child("", node->expression, " USING ");
     result.fail_with(r.child(node->identifier));
     return result;
 }
 
-rendered render_in_argument(rendering &r, node_in_argument *node, void *) {
+outcome render_in_argument(rendering &r, node_in_argument *node, void *) {
     if (!node->expression_1 || !node->expression_2)
         return missing_part;
-    rendered result = r.enclosed_child("", node->expression_1, " IN ");
+    outcome result = r.enclosed_child("", node->expression_1, " IN ");
     result.fail_with(r.child(node->expression_2));
     return result;
 }
 
-rendered render_from_for_argument(rendering &r, node_from_for_argument *node, void *) {
+outcome render_from_for_argument(rendering &r, node_from_for_argument *node, void *) {
     if (!node->expression_1 || !node->expression_2)
         return missing_part;
-    rendered result = r.enclosed_child("", node->expression_1, " FROM ");
+    outcome result = r.enclosed_child("", node->expression_1, " FROM ");
     result.fail_with(r.child(node->expression_2));
     result.fail_with(r.prefixed_child(" FOR ", node->expression_3));
     return result;
 }
 
-rendered render_placing_from_for_argument(rendering &r, node_placing_from_for_argument *node,
-                                          void *) {
+outcome render_placing_from_for_argument(rendering &r, node_placing_from_for_argument *node,
+                                         void *) {
     if (!node->expression_1 || !node->expression_2)
         return missing_part;
-    rendered result = r.enclosed_child("", node->expression_1, " PLACING ");
+    outcome result = r.enclosed_child("", node->expression_1, " PLACING ");
     result.fail_with(r.child(node->expression_2));
-    const rendered from = r.prefixed_child(" FROM ", node->expression_3);
-    const rendered length = r.prefixed_child(" FOR ", node->expression_4);
+    const outcome from = r.prefixed_child(" FROM ", node->expression_3);
+    const outcome length = r.prefixed_child(" FOR ", node->expression_4);
     result.fail_with(from);
     result.fail_with(length);
     const bool integers = (!from.text || node->expression_3->sql_type == QUILLET_TYPE_INT8) &&
@@ -107,7 +107,7 @@ rendered render_placing_from_for_argument(rendering &r, node_placing_from_for_ar
     return result;
 }
 
-rendered render_trim_argument(rendering &r, node_trim_argument *node, void *) {
+outcome render_trim_argument(rendering &r, node_trim_argument *node, void *) {
     if (!node->expression_2)
         return missing_part;
     const std::string_view side = node->mode == QUILLET_TRIM_BOTH       ? "BOTH"
@@ -115,8 +115,8 @@ rendered render_trim_argument(rendering &r, node_trim_argument *node, void *) {
                                   : node->mode == QUILLET_TRIM_TRAILING ? "TRAILING"
                                                                         : "";
     r.out.append(side);
-    const rendered characters = r.prefixed_child(side.empty() ? "" : " ", node->expression_1);
-    rendered result{true, true, characters.status};
+    const outcome characters = r.prefixed_child(side.empty() ? "" : " ", node->expression_1);
+    outcome result{true, true, characters.status};
     result.fail_with(r.enclosed_child(" FROM ", node->expression_2));
     return result;
 }

@@ -8,7 +8,7 @@ namespace quillet {
 namespace {
 
 // Renders a literal that stands in the tree as it was written.
-rendered render_literal(rendering &r, const char *text, std::int32_t &sql_type, int type) {
+outcome render_literal(rendering &r, const char *text, std::int32_t &sql_type, int type) {
     if (!text)
         return missing_part;
     r.out.append(text);
@@ -20,7 +20,7 @@ rendered render_literal(rendering &r, const char *text, std::int32_t &sql_type, 
 
 // A type word stands before a string alone, and only a date or time shows its time zone. A literal
 // without any form is NULL.
-rendered render_const_generic(rendering &r, node_const_generic *node, void *) {
+outcome render_const_generic(rendering &r, node_const_generic *node, void *) {
     const std::string_view word = node->const_string ? quillet_type_to_string(node->type) : "";
     const output::place begin = r.out.here();
     r.out.append(word);
@@ -46,7 +46,7 @@ rendered render_const_generic(rendering &r, node_const_generic *node, void *) {
         node->sql_type = QUILLET_TYPE_UNKNOWN;
     }
 
-    rendered result{true, true, value.status()};
+    outcome result{true, true, value.status()};
     if (node->at_time_zone) {
         const output::place after_value = r.out.here();
         result.fail_with(r.spaced_child(is_string ? after_blank : begin, node->at_time_zone));
@@ -58,11 +58,11 @@ rendered render_const_generic(rendering &r, node_const_generic *node, void *) {
     return result;
 }
 
-rendered render_at_time_zone(rendering &r, node_at_time_zone *node, void *) {
+outcome render_at_time_zone(rendering &r, node_at_time_zone *node, void *) {
     if (!node->const_string)
         return missing_part;
     const output::place begin = r.out.here();
-    const rendered result = r.enclosed_child(
+    const outcome result = r.enclosed_child(
         node->type == QUILLET_ZONE_TIME_INTERVAL ? "AT TIME ZONE INTERVAL " : "AT TIME ZONE ",
         node->const_string);
     if (node->type == QUILLET_ZONE_TIME || node->type == QUILLET_ZONE_TIME_INTERVAL)
@@ -71,19 +71,19 @@ rendered render_at_time_zone(rendering &r, node_at_time_zone *node, void *) {
     return missing_part;
 }
 
-rendered render_const_string(rendering &r, node_const_string *node, void *) {
+outcome render_const_string(rendering &r, node_const_string *node, void *) {
     return render_literal(r, node->string, node->sql_type, QUILLET_TYPE_VARCHAR);
 }
 
-rendered render_const_integer(rendering &r, node_const_integer *node, void *) {
+outcome render_const_integer(rendering &r, node_const_integer *node, void *) {
     return render_literal(r, node->integer, node->sql_type, QUILLET_TYPE_INT8);
 }
 
-rendered render_const_floating(rendering &r, node_const_floating *node, void *) {
+outcome render_const_floating(rendering &r, node_const_floating *node, void *) {
     return render_literal(r, node->floating, node->sql_type, QUILLET_TYPE_FLOAT8);
 }
 
-rendered render_escape(rendering &r, node_escape *node, void *) {
+outcome render_escape(rendering &r, node_escape *node, void *) {
     if (!node->string)
         return missing_part;
     r.out.append("ESCAPE ");
@@ -91,7 +91,7 @@ rendered render_escape(rendering &r, node_escape *node, void *) {
     return a_text;
 }
 
-rendered render_const_boolean(rendering &r, node_const_boolean *node, void *) {
+outcome render_const_boolean(rendering &r, node_const_boolean *node, void *) {
     r.out.append(node->value == QUILLET_TRUTH_TRUE    ? "TRUE"
                  : node->value == QUILLET_TRUTH_FALSE ? "FALSE"
                                                       : "UNKNOW");

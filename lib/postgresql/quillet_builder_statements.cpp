@@ -7,7 +7,7 @@ namespace quillet {
 
 // Statements.
 
-rendered render_main(rendering &r, node_main *node, void *) {
+outcome render_main(rendering &r, node_main *node, void *) {
     if (node->select)
         return r.child(node->select);
     if (node->insert)
@@ -17,14 +17,14 @@ rendered render_main(rendering &r, node_main *node, void *) {
     return r.child(node->delete_);
 }
 
-rendered render_select(rendering &r, node_select *node, void *) {
+outcome render_select(rendering &r, node_select *node, void *) {
     if (!node->distinct_select_list)
         return missing_part;
-    rendered result = r.enclosed_child("SELECT ", node->distinct_select_list);
+    outcome result = r.enclosed_child("SELECT ", node->distinct_select_list);
     const output::place after_list = r.out.here();
     r.out.append(" FROM ");
     const output::place begin = r.out.here();
-    const rendered tables = r.child(node->tables);
+    const outcome tables = r.child(node->tables);
     result.fail_with(tables);
     result.fail_with(r.spaced_child(begin, node->where_clausule));
     result.fail_with(r.spaced_child(begin, node->group_by_clausule));
@@ -35,12 +35,12 @@ rendered render_select(rendering &r, node_select *node, void *) {
     return result;
 }
 
-rendered render_insert(rendering &r, node_insert *node, void *) {
+outcome render_insert(rendering &r, node_insert *node, void *) {
     if (!node->table || !node->values_list)
         return missing_part;
     const output::place begin = r.out.here();
-    rendered result = r.enclosed_child("INSERT INTO ", node->table);
-    const rendered columns = r.prefixed_child(" (", node->identifier_list);
+    outcome result = r.enclosed_child("INSERT INTO ", node->table);
+    const outcome columns = r.prefixed_child(" (", node->identifier_list);
     result.fail_with(columns);
     r.out.append(columns.text ? ") VALUES " : " VALUES ");
     result.fail_with(r.child(node->values_list, node->identifier_list));
@@ -52,24 +52,24 @@ rendered render_insert(rendering &r, node_insert *node, void *) {
     return result;
 }
 
-rendered render_update(rendering &r, node_update *node, void *) {
+outcome render_update(rendering &r, node_update *node, void *) {
     if (!node->table || !node->set_clausule)
         return missing_part;
     r.out.append("UPDATE ");
     const output::place begin = r.out.here();
-    rendered result = a_text;
+    outcome result = a_text;
     result.fail_with(r.child(node->table));
     result.fail_with(r.spaced_child(begin, node->set_clausule));
     result.fail_with(r.spaced_child(begin, node->where_clausule));
     return result;
 }
 
-rendered render_delete(rendering &r, node_delete *node, void *) {
+outcome render_delete(rendering &r, node_delete *node, void *) {
     if (!node->table)
         return missing_part;
     r.out.append("DELETE FROM ");
     const output::place begin = r.out.here();
-    rendered result = a_text;
+    outcome result = a_text;
     result.fail_with(r.child(node->table));
     result.fail_with(r.spaced_child(begin, node->where_clausule));
     return result;
@@ -91,25 +91,25 @@ struct column_names {
 
 } // namespace
 
-rendered render_values_list(rendering &r, node_values_list *node, void *names) {
+outcome render_values_list(rendering &r, node_values_list *node, void *names) {
     if (!node->expression_or_default_list)
         return missing_part;
     r.out.append("(");
-    const rendered items = r.child(node->expression_or_default_list, names);
+    const outcome items = r.child(node->expression_or_default_list, names);
     r.out.append(")");
     return {true, true, items.status};
 }
 
-rendered render_expression_or_default_list(rendering &r, node_expression_or_default_list *node,
-                                           void *names) {
+outcome render_expression_or_default_list(rendering &r, node_expression_or_default_list *node,
+                                          void *names) {
     return render_list<&node_expression_or_default_list::expression_or_default_list,
                        &node_expression_or_default_list::expression_or_default_item, column_names>(
         r, node, names, comma);
 }
 
-rendered render_expression_or_default_item(rendering &r, node_expression_or_default_item *node,
-                                           void *) {
-    const rendered value = r.child(node->expression);
+outcome render_expression_or_default_item(rendering &r, node_expression_or_default_item *node,
+                                          void *) {
+    const outcome value = r.child(node->expression);
     if (!value.text)
         r.out.append("DEFAULT");
     return {true, true, value.status};
@@ -117,55 +117,55 @@ rendered render_expression_or_default_item(rendering &r, node_expression_or_defa
 
 // The assignments of an UPDATE.
 
-rendered render_set_clausule(rendering &r, node_set_clausule *node, void *) {
+outcome render_set_clausule(rendering &r, node_set_clausule *node, void *) {
     if (!node->set_list)
         return missing_part;
     return r.enclosed_child("SET ", node->set_list);
 }
 
-rendered render_set_list(rendering &r, node_set_list *node, void *data) {
+outcome render_set_list(rendering &r, node_set_list *node, void *data) {
     return render_list<&node_set_list::set_list, &node_set_list::set_item>(r, node, data, comma);
 }
 
-rendered render_set_item(rendering &r, node_set_item *node, void *) {
+outcome render_set_item(rendering &r, node_set_item *node, void *) {
     if (!node->column_reference || !node->expression)
         return missing_part;
-    rendered result = r.enclosed_child("", node->column_reference, " = ");
+    outcome result = r.enclosed_child("", node->column_reference, " = ");
     result.fail_with(r.child(node->expression));
     return result;
 }
 
 // Tables and joins.
 
-rendered render_tables(rendering &r, node_tables *node, void *) {
+outcome render_tables(rendering &r, node_tables *node, void *) {
     if (!node->tables_list)
         return missing_part;
     const output::place begin = r.out.here();
-    rendered result = r.child(node->tables_list);
-    const rendered joins = r.spaced_child(begin, node->join_list);
+    outcome result = r.child(node->tables_list);
+    const outcome joins = r.spaced_child(begin, node->join_list);
     result.fail_with(joins);
     return {true, result.text || joins.text, result.status};
 }
 
-rendered render_tables_list(rendering &r, node_tables_list *node, void *data) {
+outcome render_tables_list(rendering &r, node_tables_list *node, void *data) {
     return render_list<&node_tables_list::tables_list, &node_tables_list::table>(r, node, data,
                                                                                  comma);
 }
 
-rendered render_table(rendering &r, node_table *node, void *) {
+outcome render_table(rendering &r, node_table *node, void *) {
     if (!node->identifier)
         return missing_part;
-    rendered result = r.child(node->identifier);
-    const rendered alias = r.prefixed_child(" AS ", node->alias);
+    outcome result = r.child(node->identifier);
+    const outcome alias = r.prefixed_child(" AS ", node->alias);
     result.fail_with(alias);
     return {true, result.text || alias.text, result.status};
 }
 
-rendered render_join_list(rendering &r, node_join_list *node, void *data) {
+outcome render_join_list(rendering &r, node_join_list *node, void *data) {
     return render_list<&node_join_list::join_list, &node_join_list::join>(r, node, data, blank);
 }
 
-rendered render_join(rendering &r, node_join *node, void *) {
+outcome render_join(rendering &r, node_join *node, void *) {
     static constexpr std::string_view words[] = {"",
                                                  "CROSS JOIN ",
                                                  "INNER JOIN ",
@@ -179,136 +179,136 @@ rendered render_join(rendering &r, node_join *node, void *) {
         r.out.append("NATURAL ");
     r.out.append(words[known ? node->type : QUILLET_JOIN_NONE]);
     const output::place begin = r.out.here();
-    rendered result = r.child(node->table);
-    const rendered condition = r.spaced_child(begin, node->join_expression);
+    outcome result = r.child(node->table);
+    const outcome condition = r.spaced_child(begin, node->join_expression);
     result.fail_with(condition);
     return {true, result.text || condition.text || known || node->natural, result.status};
 }
 
-rendered render_join_type(rendering &, node_join_type *, void *) { return absent; }
+outcome render_join_type(rendering &, node_join_type *, void *) { return absent; }
 
-rendered render_join_expression(rendering &r, node_join_expression *node, void *) {
-    const rendered condition = r.prefixed_child("ON ", node->expression);
+outcome render_join_expression(rendering &r, node_join_expression *node, void *) {
+    const outcome condition = r.prefixed_child("ON ", node->expression);
     const output::place after_condition = r.out.here();
-    const rendered names = r.prefixed_child("USING(", node->identifier_list);
+    const outcome names = r.prefixed_child("USING(", node->identifier_list);
     if (condition.text)
         r.out.cut(after_condition);
     else if (names.text)
         r.out.append(")");
-    rendered result{true, condition.text || names.text, condition.status};
+    outcome result{true, condition.text || names.text, condition.status};
     result.fail_with(names);
     return result;
 }
 
 // The later clauses of a statement.
 
-rendered render_where_clausule(rendering &r, node_where_clausule *node, void *) {
+outcome render_where_clausule(rendering &r, node_where_clausule *node, void *) {
     if (!node->expression)
         return missing_part;
     return r.enclosed_child("WHERE ", node->expression);
 }
 
-rendered render_group_by_clausule(rendering &r, node_group_by_clausule *node, void *) {
+outcome render_group_by_clausule(rendering &r, node_group_by_clausule *node, void *) {
     if (!node->column_reference_list)
         return missing_part;
     r.out.append("GROUP BY ");
     const output::place begin = r.out.here();
-    rendered result = a_text;
+    outcome result = a_text;
     result.fail_with(r.child(node->column_reference_list));
     result.fail_with(r.spaced_child(begin, node->having_clausule));
     return result;
 }
 
-rendered render_having_clausule(rendering &r, node_having_clausule *node, void *) {
+outcome render_having_clausule(rendering &r, node_having_clausule *node, void *) {
     if (!node->expression)
         return missing_part;
     return r.enclosed_child("HAVING ", node->expression);
 }
 
-rendered render_order_by_clausule(rendering &r, node_order_by_clausule *node, void *) {
+outcome render_order_by_clausule(rendering &r, node_order_by_clausule *node, void *) {
     if (!node->order_by_list)
         return missing_part;
     return r.enclosed_child("ORDER BY ", node->order_by_list);
 }
 
-rendered render_order_by_list(rendering &r, node_order_by_list *node, void *data) {
+outcome render_order_by_list(rendering &r, node_order_by_list *node, void *data) {
     return render_list<&node_order_by_list::order_by_list, &node_order_by_list::order_by_item>(
         r, node, data, comma);
 }
 
-rendered render_order_by_item(rendering &r, node_order_by_item *node, void *) {
+outcome render_order_by_item(rendering &r, node_order_by_item *node, void *) {
     if (!node->expression)
         return missing_part;
     return r.enclosed_child("", node->expression,
                             node->type == QUILLET_SORT_ASCENDING ? " ASC" : " DESC");
 }
 
-rendered render_limit_clausule(rendering &r, node_limit_clausule *node, void *) {
-    const rendered limit = r.prefixed_child("LIMIT ", node->const_integer_1);
-    const rendered offset =
+outcome render_limit_clausule(rendering &r, node_limit_clausule *node, void *) {
+    const outcome limit = r.prefixed_child("LIMIT ", node->const_integer_1);
+    const outcome offset =
         r.prefixed_child(limit.text ? " OFFSET " : "OFFSET ", node->const_integer_2);
-    rendered result{true, limit.text || offset.text, limit.status};
+    outcome result{true, limit.text || offset.text, limit.status};
     result.fail_with(offset);
     return result;
 }
 
 // The select list.
 
-rendered render_distinct_select_list(rendering &r, node_distinct_select_list *node, void *) {
+outcome render_distinct_select_list(rendering &r, node_distinct_select_list *node, void *) {
     if (!node->select_list)
         return missing_part;
     const output::place begin = r.out.here();
-    const rendered distinct = r.child(node->distinct);
-    const rendered list = r.spaced_child(begin, node->select_list);
-    rendered result{true, distinct.text || list.text, distinct.status};
+    const outcome distinct = r.child(node->distinct);
+    const outcome list = r.spaced_child(begin, node->select_list);
+    outcome result{true, distinct.text || list.text, distinct.status};
     result.fail_with(list);
     return result;
 }
 
-rendered render_distinct(rendering &r, node_distinct *node, void *) {
+outcome render_distinct(rendering &r, node_distinct *node, void *) {
     r.out.append("DISTINCT");
-    const rendered list = r.prefixed_child(" (", node->select_list);
+    const outcome list = r.prefixed_child(" (", node->select_list);
     if (list.text)
         r.out.append(")");
     return {true, true, list.status};
 }
 
-rendered render_select_list(rendering &r, node_select_list *node, void *data) {
+outcome render_select_list(rendering &r, node_select_list *node, void *data) {
     return render_list<&node_select_list::select_list, &node_select_list::select_item>(r, node,
                                                                                        data, comma);
 }
 
-rendered render_select_item(rendering &r, node_select_item *node, void *) {
+outcome render_select_item(rendering &r, node_select_item *node, void *) {
     return complete_select_item(r, node->identifier, r.child(node->expression));
 }
 
 // Names and columns.
 
-rendered render_identifier_list(rendering &r, node_identifier_list *node, void *data) {
+outcome render_identifier_list(rendering &r, node_identifier_list *node, void *data) {
     return render_list<&node_identifier_list::identifier_list, &node_identifier_list::identifier>(
         r, node, data, comma);
 }
 
-rendered render_identifier(rendering &r, node_identifier *node, void *) {
+outcome render_identifier(rendering &r, node_identifier *node, void *) {
     if (!node->name)
         return missing_part;
     r.out.append(node->name);
     return a_text;
 }
 
-rendered render_column_reference_list(rendering &r, node_column_reference_list *node, void *data) {
+outcome render_column_reference_list(rendering &r, node_column_reference_list *node, void *data) {
     return render_list<&node_column_reference_list::column_reference_list,
                        &node_column_reference_list::column_reference>(r, node, data, comma);
 }
 
-rendered render_column_reference(rendering &r, node_column_reference *node, void *) {
+outcome render_column_reference(rendering &r, node_column_reference *node, void *) {
     if (!node->column_name)
         return missing_part;
-    const rendered qualifier = r.child(node->correlation_name);
+    const outcome qualifier = r.child(node->correlation_name);
     if (qualifier.text)
         r.out.append(".");
-    const rendered column = r.child(node->column_name);
-    rendered result{true, qualifier.text || column.text, qualifier.status};
+    const outcome column = r.child(node->column_name);
+    outcome result{true, qualifier.text || column.text, qualifier.status};
     result.fail_with(column);
     return result;
 }

@@ -34,12 +34,12 @@ constexpr operator_rule operators[operator_count] = {
 
 constexpr cast_rule cast = {
     [](rendering &r, const node_cast_expression &) { r.out.append("CAST("); },
-    [](rendering &r, node_cast_expression &node, output::place, rendered expression) {
+    [](rendering &r, node_cast_expression &node, output::place, outcome expression) {
         r.out.append(" AS ");
         r.out.append(quillet_type_to_string(node.type));
         r.out.append(')');
         node.sql_type = node.type;
-        return rendered{true, true, expression.status};
+        return outcome{true, true, expression.status};
     }};
 
 } // namespace
@@ -83,6 +83,6 @@ builder *quillet_default_builder_create(void) {
     return created;
 }
 
-rendered quillet::render_cast_expression(rendering &r, node_cast_expression *node, void *) {
+outcome quillet::render_cast_expression(rendering &r, node_cast_expression *node, void *) {
     return render_cast(r, cast, node);
 }

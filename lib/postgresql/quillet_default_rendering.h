@@ -11,7 +11,7 @@ namespace quillet {
 extern const dialect postgresql_dialect;
 
 // The renderers, render_<kind>.
-#define NODE(kind) rendered render_##kind(rendering &r, node_##kind *node, void *data);
+#define NODE(kind) outcome render_##kind(rendering &r, node_##kind *node, void *data);
 #include "quillet_nodes.def"
 
 } // namespace quillet

@@ -39,7 +39,7 @@ template <class Node> struct slot_of;
 #define NODE(kind)                                                                                 \
     template <> struct slot_of<node_##kind> {                                                      \
         static constexpr auto operation = &builder::build_##kind;                                  \
-        static constexpr auto renderer = &dialect::render_##kind;                                  \
+        static constexpr auto render = &dialect::render_##kind;                                    \
     };
 #include "quillet_nodes.def"
 

@@ -37,7 +37,7 @@ bool is_only_a_cast(const node_expression &node) {
 
 // Begins an expression: renders it whole and stores its outcome, or writes what stands before its
 // first operand, says in begun how it goes on, and returns that operand.
-node_expression *begin_expression(rendering &r, step &begun, rendered &outcome) {
+node_expression *begin_expression(rendering &r, step &begun, outcome &whole) {
     node_expression *node = begun.node;
     begun.begin = r.out.here();
     if (is_only_a_cast(*node)) {
@@ -51,7 +51,7 @@ node_expression *begin_expression(rendering &r, step &begun, rendered &outcome) 
     }
 
     const first_with_text leaf = render_leaf(r, node);
-    outcome = {true, leaf.has_text(), leaf.status()};
+    whole = {true, leaf.has_text(), leaf.status()};
     if (leaf.is_decided())
         return nullptr;
 
@@ -59,13 +59,13 @@ node_expression *begin_expression(rendering &r, step &begun, rendered &outcome) 
         if (node->expression_2)
             return nullptr;
         if (!node->expression_1) {
-            if (!outcome.status)
-                outcome = missing_part;
+            if (!whole.status)
+                whole = missing_part;
             return nullptr;
         }
         r.out.append('(');
         begun.kind = step::parentheses;
-        begun.status = outcome.status;
+        begun.status = whole.status;
         return node->expression_1;
     }
 
@@ -75,27 +75,27 @@ node_expression *begin_expression(rendering &r, step &begun, rendered &outcome) 
     const auto slot = operator_slots[index];
     const auto own = r.self->*slot;
     if (const dialect *home = dialect_of(slot, own)) {
-        begun.kind = step::operation;
+        begun.kind = step::application;
         begun.use = {home, index};
         if (begins_with_operand(begun.use, *node)) {
             begin_operator(r, begun.use);
             return node->expression_1;
         }
-        outcome = render_operator(r, begun.use, node, nullptr);
+        whole = render_operator(r, begun.use, node, nullptr);
     } else {
-        outcome = own ? r.take(own(r.self, node, nullptr)) : absent;
+        whole = own ? r.take(own(r.self, node, nullptr)) : absent;
     }
     return nullptr;
 }
 
 // Ends an expression whose first operand has the given outcome.
-rendered end_expression(rendering &r, const step &begun, const rendered &first) {
+outcome end_expression(rendering &r, const step &begun, const outcome &first) {
     node_expression *node = begun.node;
     switch (begun.kind) {
-    case step::operation: return end_operator(r, begun.use, node, nullptr, begun.begin, first);
+    case step::application: return end_operator(r, begun.use, node, nullptr, begun.begin, first);
     case step::type_cast: {
         const cast_rule &rule = *begun.use.home->cast;
-        const rendered result = rule.end(r, *node->cast_expression, begun.begin, first);
+        const outcome result = rule.end(r, *node->cast_expression, begun.begin, first);
         if (result.text)
             node->sql_type = node->cast_expression->sql_type;
         return result.text || result.status ? result : missing_part;
@@ -105,13 +105,13 @@ rendered end_expression(rendering &r, const step &begun, const rendered &first) 
         node->sql_type = node->expression_1->sql_type;
         break;
     }
-    rendered result{true, true, begun.status};
+    outcome result{true, true, begun.status};
     result.fail_with(first);
     return result;
 }
 
 // Puts round an expression what belongs there.
-void close_frame(rendering &r, const step &begun, rendered &result) {
+void close_frame(rendering &r, const step &begun, outcome &result) {
     if (!result.record)
         return;
     r.out.fill(begun.frame_gap, begun.frame->begin(*begun.node));
@@ -137,13 +137,13 @@ operand_manner manner_of_operands(const builder &self) {
 
 } // namespace
 
-rendered render_framed_expression(rendering &r, node_expression *node,
-                                  const expression_frame *frame) {
+outcome render_framed_expression(rendering &r, node_expression *node,
+                                 const expression_frame *frame) {
     if (r.is_exhausted())
         return refused_part;
     const operand_manner manner = manner_of_operands(*r.self);
     walk<step> steps = r.expression_walk();
-    rendered result;
+    outcome result;
     for (;;) {
         step next{.node = node, .frame = frame};
         if (frame)
@@ -170,7 +170,7 @@ rendered render_framed_expression(rendering &r, node_expression *node,
     return result;
 }
 
-rendered render_cast(rendering &r, const cast_rule &rule, node_cast_expression *node) {
+outcome render_cast(rendering &r, const cast_rule &rule, node_cast_expression *node) {
     if (!node->expression)
         return missing_part;
     const output::place begin = r.out.here();

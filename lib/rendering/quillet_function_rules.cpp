@@ -17,7 +17,7 @@ int default_type_of(int function, const node_function_call &call) {
     return default_types[function](&call);
 }
 
-rendered render_function(rendering &r, const dialect &home, int index, node_function_call *call) {
+outcome render_function(rendering &r, const dialect &home, int index, node_function_call *call) {
     const function_rule &rule = home.functions[index];
     if (rule.refusal) {
         home.refuse(rule.refusal);
@@ -47,7 +47,7 @@ rendered render_function(rendering &r, const dialect &home, int index, node_func
         all.add(last);
         break;
     }
-    const rendered result = all.write(rule.text);
+    const outcome result = all.write(rule.text);
     call->sql_type = default_type_of(index, *call);
     return result;
 }

@@ -9,7 +9,7 @@
 namespace quillet {
 
 // Renders a function call by a dialect's rule, whatever its slot holds.
-rendered render_function(rendering &r, const dialect &home, int index, node_function_call *call);
+outcome render_function(rendering &r, const dialect &home, int index, node_function_call *call);
 
 // The body of a function's public operation.
 build_result *render_function_alone(const dialect &home, int index, builder *self,

@@ -20,7 +20,7 @@ struct no_data {
 // Renders a list: the items before the head's own, then that one. Earlier and Item are the list's
 // fields for the two; a list node without an item is a missing part.
 template <auto Earlier, auto Item, class Data = no_data, class List>
-rendered render_list(rendering &r, List *head, void *data, std::string_view separator) {
+outcome render_list(rendering &r, List *head, void *data, std::string_view separator) {
     constexpr auto slot = slot_of<List>::operation;
     const bool own = dialect_of(slot, r.self->*slot) != nullptr;
     walk<list_step> steps = r.list_walk();
@@ -28,7 +28,7 @@ rendered render_list(rendering &r, List *head, void *data, std::string_view sepa
 
     // Down to the first item, or to the first list node that is not ours to render.
     List *list = head;
-    rendered result = absent;
+    outcome result = absent;
     for (;;) {
         if (!(list->*Item)) {
             result = missing_part;
@@ -50,7 +50,7 @@ rendered render_list(rendering &r, List *head, void *data, std::string_view sepa
     while (steps.is_down()) {
         const list_step step = steps.up();
         list = static_cast<List *>(step.node);
-        rendered item;
+        outcome item;
         if (separator == blank) {
             item = r.spaced_child(begin, list->*Item);
         } else {

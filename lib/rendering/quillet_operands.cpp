@@ -5,12 +5,12 @@
 
 namespace quillet {
 
-void operands::resume(const rendered &first) {
+void operands::resume(const outcome &first) {
     gaps_[0] = output::gap_at(begin_);
     after(first);
 }
 
-rendered operands::write(const text_template &text, std::size_t skipped) {
+outcome operands::write(const text_template &text, std::size_t skipped) {
     if (!streamed_) {
         if (!text.in_order || text.operand_count != count_ || skipped)
             return rearrange(text, skipped);
@@ -22,7 +22,7 @@ rendered operands::write(const text_template &text, std::size_t skipped) {
     return {true, true, status_.status};
 }
 
-rendered operands::rearrange(const text_template &text, std::size_t skipped) {
+outcome operands::rearrange(const text_template &text, std::size_t skipped) {
     std::size_t sizes[text_template::operands_maximum] = {};
     std::size_t later = 0;
     for (int i = count_; i-- > 0; later += sizes[i])

@@ -24,19 +24,19 @@ public:
         : r_(r), begin_(begin), streamed_(known && known->in_order ? known : nullptr) {}
 
     // Renders the next operand. NULL gives an empty text.
-    template <class Node> rendered add(Node *node) {
+    template <class Node> outcome add(Node *node) {
         before();
-        const rendered result = r_.child(node);
+        const outcome result = r_.child(node);
         after(result);
         return result;
     }
 
     // Renders the next operand with a blank before it, unless it is empty or so is the text since
     // the operand before it began.
-    template <class Node> rendered add_spaced(Node *node) {
+    template <class Node> outcome add_spaced(Node *node) {
         const output::place since = last_;
         before();
-        const rendered result = r_.spaced_child(since, node);
+        const outcome result = r_.spaced_child(since, node);
         after(result);
         return result;
     }
@@ -56,27 +56,27 @@ public:
             gaps_[count_] = r_.out.leave_gap();
         last_ = r_.out.here();
     }
-    void after(const rendered &operand) {
+    void after(const outcome &operand) {
         ++count_;
         status_.fail_with(operand);
     }
 
     // Goes on after the first operand, before which another one of these began.
-    void resume(const rendered &first);
+    void resume(const outcome &first);
 
     // Takes over a status of what is no operand.
-    void fail_with(const rendered &other) { status_.fail_with(other); }
+    void fail_with(const outcome &other) { status_.fail_with(other); }
 
     std::int32_t status() const { return status_.status; }
 
     // Writes the text, in which the first characters of $1 may be left out.
-    rendered write(const text_template &text, std::size_t skipped = 0);
+    outcome write(const text_template &text, std::size_t skipped = 0);
 
     // Drops all that was rendered.
     void drop() { r_.out.cut(begin_); }
 
 private:
-    rendered rearrange(const text_template &text, std::size_t skipped);
+    outcome rearrange(const text_template &text, std::size_t skipped);
 
     rendering &r_;
     const output::place begin_;
@@ -84,7 +84,7 @@ private:
     output::gap gaps_[text_template::operands_maximum] = {}; // before each; unless it is streamed
     output::place last_{};                                   // where the last operand begins
     int count_ = 0;
-    rendered status_{};
+    outcome status_{};
 };
 
 } // namespace quillet

@@ -53,7 +53,7 @@ bool is_missing_operand(operator_use use, const node_expression &node) {
     return false;
 }
 
-rendered add_operand(operands &all, operand mark, const node_expression &node) {
+outcome add_operand(operands &all, operand mark, const node_expression &node) {
     switch (mark) {
     case operand::first: return all.add(node.expression_1);
     case operand::second: return all.add(node.expression_2);
@@ -69,7 +69,7 @@ rendered add_operand(operands &all, operand mark, const node_expression &node) {
 }
 
 // The type of an operand as its rendering left it.
-std::int32_t type_of(const node_expression *node, const rendered &result) {
+std::int32_t type_of(const node_expression *node, const outcome &result) {
     return node && result.record ? node->sql_type : 0;
 }
 
@@ -81,8 +81,8 @@ const typed_text *text_for(std::span<const typed_text> texts, int left, int righ
 }
 
 // Gives the operands the text that their types choose, or the default one.
-rendered write_by_types(rendering &r, operator_use use, node_expression *node, void *data,
-                        operands &all, int left, int right) {
+outcome write_by_types(rendering &r, operator_use use, node_expression *node, void *data,
+                       operands &all, int left, int right) {
     if (const typed_text *chosen = text_for(use.rule().by_types, left, right)) {
         if (chosen->refusal) {
             all.drop();
@@ -102,7 +102,7 @@ rendered write_by_types(rendering &r, operator_use use, node_expression *node, v
     return all.write(use.default_rule().text);
 }
 
-rendered write_by_truth(const operator_rule &rule, node_expression *node, operands &all) {
+outcome write_by_truth(const operator_rule &rule, node_expression *node, operands &all) {
     const int value = node->const_boolean->value;
     node->sql_type = QUILLET_TYPE_BOOL;
     if (value >= QUILLET_TRUTH_TRUE && value <= QUILLET_TRUTH_UNKNOW)
@@ -112,13 +112,13 @@ rendered write_by_truth(const operator_rule &rule, node_expression *node, operan
 }
 
 // Renders the operands from the given one on, and writes the text.
-rendered complete(rendering &r, operator_use use, node_expression *node, void *data, operands &all,
-                  int next, rendered first) {
+outcome complete(rendering &r, operator_use use, node_expression *node, void *data, operands &all,
+                 int next, outcome first) {
     const text_template &form = form_of(use);
-    rendered second;
+    outcome second;
     for (int i = next; i < form.operand_count; ++i) {
         const operand mark = form.operands[i];
-        const rendered result = add_operand(all, mark, *node);
+        const outcome result = add_operand(all, mark, *node);
         if (mark == operand::first)
             first = result;
         else if (mark == operand::second)
@@ -155,14 +155,14 @@ void begin_operator(rendering &r, operator_use use) {
     operands(r, known_text(use.rule())).before();
 }
 
-rendered end_operator(rendering &r, operator_use use, node_expression *node, void *data,
-                      output::place begin, const rendered &first) {
+outcome end_operator(rendering &r, operator_use use, node_expression *node, void *data,
+                     output::place begin, const outcome &first) {
     operands all(r, known_text(use.rule()), begin);
     all.resume(first);
     return complete(r, use, node, data, all, 1, first);
 }
 
-rendered render_operator(rendering &r, operator_use use, node_expression *node, void *data) {
+outcome render_operator(rendering &r, operator_use use, node_expression *node, void *data) {
     const operator_rule &rule = use.rule();
     if (rule.refusal) {
         use.home->refuse(rule.refusal);

@@ -17,7 +17,7 @@ inline constexpr int no_operator = -1;
 int operator_index(std::string_view name);
 
 // Renders an operator application by a dialect's rule, whatever its slot holds.
-rendered render_operator(rendering &r, operator_use use, node_expression *node, void *data);
+outcome render_operator(rendering &r, operator_use use, node_expression *node, void *data);
 
 // The same in two halves round the first operand, which somebody else renders in between.
 
@@ -26,8 +26,8 @@ bool begins_with_operand(operator_use use, const node_expression &node);
 // Writes what stands before the first operand.
 void begin_operator(rendering &r, operator_use use);
 // Renders the rest. The text began at begin; first is the outcome of the first operand.
-rendered end_operator(rendering &r, operator_use use, node_expression *node, void *data,
-                      output::place begin, const rendered &first);
+outcome end_operator(rendering &r, operator_use use, node_expression *node, void *data,
+                     output::place begin, const outcome &first);
 
 // The body of an operator's public operation.
 build_result *render_operator_alone(operator_use use, builder *self, node_expression *node,

@@ -40,7 +40,7 @@ rendering::~rendering() {
         kept.stack.reset();
 }
 
-rendered rendering::take(build_result *result) {
+outcome rendering::take(build_result *result) {
     if (!result)
         return absent;
     const std::unique_ptr<build_result, freed> record(result);
@@ -58,18 +58,17 @@ bool first_with_text::is_preferred(output::place begin, int rank) {
     return rank < rank_;
 }
 
-rendered complete_select_item(rendering &r, node_identifier *identifier,
-                              const rendered &expression) {
-    const rendered name =
+outcome complete_select_item(rendering &r, node_identifier *identifier, const outcome &expression) {
+    const outcome name =
         expression.text ? r.prefixed_child(" AS ", identifier) : r.child(identifier);
     if (!expression.text)
         r.out.append(name.text ? ".*" : "*");
-    rendered result{true, true, expression.status};
+    outcome result{true, true, expression.status};
     result.fail_with(name);
     return result;
 }
 
-build_result *finished(rendering &r, rendered result) {
+build_result *finished(rendering &r, outcome result) {
     if (!result.record)
         return nullptr;
     if (result.text) {

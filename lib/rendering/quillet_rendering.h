@@ -41,7 +41,7 @@ struct operator_use {
 
 // An expression whose first operand is being rendered.
 struct expression_step {
-    enum : std::uint8_t { parentheses, operation, type_cast } kind = parentheses;
+    enum : std::uint8_t { parentheses, application, type_cast } kind = parentheses;
     std::int32_t status = 0; // of what was tried on the node before
     node_expression *node = nullptr;
     operator_use use{};                      // of an operation; of a cast the dialect alone
@@ -78,22 +78,22 @@ public:
     walk<expression_step> expression_walk() { return walk<expression_step>(memory_.expressions); }
 
     // Renders a child at the end of the text. NULL, or an empty slot, gives nothing.
-    template <class Node> rendered child(Node *node, void *data = nullptr) {
+    template <class Node> outcome child(Node *node, void *data = nullptr) {
         return node ? by(self->*slot_of<Node>::operation, node, data) : absent;
     }
 
     // Renders a node by the operation that the builder's own one in its slot defers to.
-    template <class Node> rendered defer(Node *node, void *data) {
+    template <class Node> outcome defer(Node *node, void *data) {
         constexpr auto slot = slot_of<Node>::operation;
         const auto deferred_to = inherited(*self, slot);
         if (deferred_to && dialect_of(slot, deferred_to))
-            return (default_dialect().*slot_of<Node>::renderer)(*this, node, data);
+            return (default_dialect().*slot_of<Node>::render)(*this, node, data);
         return by(deferred_to, node, data);
     }
 
     // Renders a node by a dialect's rule for its kind.
     template <class Node>
-    rendered by_rule(const kind_rule<Node> &rule, const dialect &home, Node *node, void *data) {
+    outcome by_rule(const kind_rule<Node> &rule, const dialect &home, Node *node, void *data) {
         if (rule.own)
             return rule.own(*this, node, data);
         if (!rule.refusal || (rule.is_refused && !rule.is_refused(*node)))
@@ -104,7 +104,7 @@ public:
 
     // Renders a child after what was written since a place, with a blank between the two if neither
     // is empty.
-    template <class Node> rendered spaced_child(output::place start, Node *node) {
+    template <class Node> outcome spaced_child(output::place start, Node *node) {
         if (!node)
             return absent;
         const output::place begin = out.here();
@@ -112,7 +112,7 @@ public:
             return child(node);
         out.append(' ');
         const output::place after_blank = out.here();
-        const rendered result = child(node);
+        const outcome result = child(node);
         if (!out.has_grown_since(after_blank))
             out.cut(begin);
         return result;
@@ -120,36 +120,36 @@ public:
 
     // Renders a child between two fixed texts, which stand there even if the child gives no text.
     template <class Node>
-    rendered enclosed_child(std::string_view before, Node *node, std::string_view after = {}) {
+    outcome enclosed_child(std::string_view before, Node *node, std::string_view after = {}) {
         out.append(before);
-        const rendered result = child(node);
+        const outcome result = child(node);
         out.append(after);
         return {true, true, result.status};
     }
 
     // Renders a child after a fixed text that goes if the child gives no text.
-    template <class Node> rendered prefixed_child(std::string_view before, Node *node) {
+    template <class Node> outcome prefixed_child(std::string_view before, Node *node) {
         if (!node)
             return absent;
         const output::place begin = out.here();
         out.append(before);
-        const rendered result = child(node);
+        const outcome result = child(node);
         if (!result.text)
             out.cut(begin);
         return result;
     }
 
     // Renders a child and takes its text out again.
-    template <class Node> rendered taken_child(Node *node, std::string &text) {
+    template <class Node> outcome taken_child(Node *node, std::string &text) {
         const output::place begin = out.here();
-        const rendered result = child(node);
+        const outcome result = child(node);
         text = out.settle(begin);
         out.cut(begin);
         return result;
     }
 
     // Appends the text of an operation's result and frees both.
-    rendered take(build_result *result);
+    outcome take(build_result *result);
 
     // Whether a limit has been reached. Nothing more is rendered then, and the rendering fails.
     [[gnu::always_inline]] bool is_exhausted() {
@@ -169,9 +169,9 @@ private:
     // Renders a node by an operation that belongs into its slot. In line, as nested trees are
     // rendered with recursion: a build without optimisation has no stack for a frame more.
     template <class Node>
-    [[gnu::always_inline]] rendered by(operation<Node> found, Node *node, void *data) {
+    [[gnu::always_inline]] outcome by(operation<Node> found, Node *node, void *data) {
         if (const dialect *home = dialect_of(slot_of<Node>::operation, found))
-            return (home->*slot_of<Node>::renderer)(*this, node, data);
+            return (home->*slot_of<Node>::render)(*this, node, data);
         return found ? take(found(self, node, data)) : absent;
     }
 
@@ -199,7 +199,7 @@ public:
     std::int32_t status() const { return status_.status; } // of all that were rendered
 
 private:
-    bool take(output::place begin, const rendered &result, int rank, bool stands_without_text) {
+    bool take(output::place begin, const outcome &result, int rank, bool stands_without_text) {
         status_.fail_with(result);
         if (!result.text && !stands_without_text)
             return false;
@@ -218,7 +218,7 @@ private:
 
     rendering &r_;
     output::place begin_{};
-    rendered status_{};
+    outcome status_{};
     int rank_ = 0;
     bool is_decided_ = false;
     bool has_text_ = false;
@@ -226,11 +226,10 @@ private:
 
 // Renders what follows the expression of a select item: its alias, or the name and star of an item
 // whose expression gave no text.
-rendered complete_select_item(rendering &r, node_identifier *identifier,
-                              const rendered &expression);
+outcome complete_select_item(rendering &r, node_identifier *identifier, const outcome &expression);
 
 // The outcome of a rendering as a public operation returns it.
-build_result *finished(rendering &r, rendered result);
+build_result *finished(rendering &r, outcome result);
 
 // The body of a public operation: a rendering of one node by what is given.
 template <class Node, class Render>

@@ -23,27 +23,26 @@ namespace quillet {
 class rendering;
 
 // What a renderer did: whether it made a result at all, whether it has a text, and its status.
-struct rendered {
+struct outcome {
     bool record = false;
     bool text = false;
     std::int32_t status = 0;
 
     // Takes over a child's failure; the last one counts.
-    void fail_with(const rendered &child) {
+    void fail_with(const outcome &child) {
         if (child.status)
             status = child.status;
     }
 };
 
-inline constexpr rendered absent{};
-inline constexpr rendered textless{true, false, 0};
-inline constexpr rendered a_text{true, true, 0};
-inline constexpr rendered missing_part{true, false, QUILLET_BUILD_MISSING_PART};
-inline constexpr rendered refused_part{true, false, QUILLET_BUILD_CANNOT_RENDER};
+inline constexpr outcome absent{};
+inline constexpr outcome a_text{true, true, 0};
+inline constexpr outcome missing_part{true, false, QUILLET_BUILD_MISSING_PART};
+inline constexpr outcome refused_part{true, false, QUILLET_BUILD_CANNOT_RENDER};
 
 // Renders a node at the end of the rendering's text. A renderer that has no text to give leaves the
 // text as it found it.
-template <class Node> using renderer = rendered (*)(rendering &r, Node *node, void *data);
+template <class Node> using renderer = outcome (*)(rendering &r, Node *node, void *data);
 
 // The text of an operator for operands of certain types, or a refusal. The second type of an
 // operator with one operand is unknown.
@@ -102,8 +101,8 @@ template <class Node> struct kind_rule {
 // stack. The node has an expression; end gets where the text began.
 struct cast_rule {
     void (*begin)(rendering &r, const node_cast_expression &node);
-    rendered (*end)(rendering &r, node_cast_expression &node, output::place begin,
-                    rendered expression);
+    outcome (*end)(rendering &r, node_cast_expression &node, output::place begin,
+                   outcome expression);
 };
 
 // What is written round every expression; begin may depend on the type found.

@@ -32,7 +32,7 @@ std::string_view type_before_expression(const node_expression &node) {
 
 constexpr expression_frame type_frame = {type_before_expression, " ) "};
 
-rendered render_expression_with_type(rendering &r, node_expression *node, void *data) {
+outcome render_expression_with_type(rendering &r, node_expression *node, void *data) {
     constexpr auto slot = &builder::build_expression;
     const auto deferred_to = inherited(*r.self, slot);
     if (dialect_of(slot, deferred_to))
@@ -40,7 +40,7 @@ rendered render_expression_with_type(rendering &r, node_expression *node, void *
 
     const output::place begin = r.out.here();
     const output::gap beginning = r.out.leave_gap();
-    rendered result = deferred_to ? r.take(deferred_to(r.self, node, data)) : absent;
+    outcome result = deferred_to ? r.take(deferred_to(r.self, node, data)) : absent;
     if (!result.record) {
         r.out.cut(begin);
         return result;
