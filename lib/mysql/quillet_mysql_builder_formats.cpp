@@ -1,5 +1,6 @@
 // TO_CHAR in the builder mysql.
 
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <string>
@@ -19,9 +20,14 @@ struct specifier {
     char with_fm[3];
 };
 
+constexpr int last_word = std::max({
+#define FORMAT(name, code, ...) code,
+#include "quillet_date_formats.def"
+});
+
 // By the words' codes, from that of quoted text on.
 constexpr auto specifiers = [] {
-    std::array<specifier, DATE_FORMAT_TZ_LOWER - DATE_FORMAT_STRING + 1> list{};
+    std::array<specifier, last_word - DATE_FORMAT_STRING + 1> list{};
 #define FORMAT(name, code, plain, with_fm, ...) list[code - DATE_FORMAT_STRING] = {plain, with_fm};
 #include "quillet_date_formats.def"
     return list;
@@ -41,7 +47,7 @@ bool append_specifier(text_buffer &out, const date_format_node &node) {
         append_escaped(out, node.string ? node.string : "");
         return true;
     }
-    if (node.format > DATE_FORMAT_STRING && node.format <= DATE_FORMAT_TZ_LOWER) {
+    if (node.format > DATE_FORMAT_STRING && node.format <= last_word) {
         const auto position = static_cast<std::size_t>(node.format - DATE_FORMAT_STRING);
         const auto &[plain, with_fm] = specifiers[position];
         const std::string_view text = node.prefix == DATE_FORMAT_PREFIX_FM ? with_fm : plain;
