@@ -65,6 +65,7 @@ enum function_id {
     function_count
 };
 
+// The record is part of what hosts are compiled with.
 static_assert(operator_count == 45 && function_count == 93);
 static_assert(sizeof(builder) == sizeof(void *) * (1 + 193));
 
