@@ -31,12 +31,12 @@ const char *quillet_mysql_get_error_description(void) {
 
 // The tables.
 
-namespace quillet::mysql {
 namespace {
 
-using namespace rows;
-using enum arguments;
-using enum reason;
+using namespace quillet::mysql;
+using namespace quillet::rows;
+using enum quillet::arguments;
+using enum quillet::mysql::reason;
 
 #define KIND(kind, ...) constexpr kind_rule<node_##kind> rule_of_##kind = __VA_ARGS__;
 #include "quillet_mysql_slots.def"
@@ -60,14 +60,12 @@ template <const auto &Rule, class Node> outcome render_kind(rendering &r, Node *
 }
 
 } // namespace
-} // namespace quillet::mysql
 
 // The operations: quillet_<kind>_mysql_builder, quillet_operator_<name>_mysql_builder and
 // quillet_function_<name>_mysql_builder.
 #define KIND(kind, ...)                                                                            \
     build_result *quillet_##kind##_mysql_builder(builder *self, node_##kind *node, void *data) {   \
-        return render_alone(mysql::render_kind<mysql::rule_of_##kind, node_##kind>, self, node,    \
-                            data);                                                                 \
+        return render_alone(render_kind<rule_of_##kind, node_##kind>, self, node, data);           \
     }
 #define OPERATOR(name, ...)                                                                        \
     build_result *quillet_operator_##name##_mysql_builder(builder *self, node_expression *node,    \
@@ -85,15 +83,15 @@ constinit const dialect quillet::mysql_dialect = [] {
     dialect own{};
 #define KIND(kind, ...)                                                                            \
     own.operations.build_##kind = quillet_##kind##_mysql_builder;                                  \
-    own.render_##kind = mysql::render_kind<mysql::rule_of_##kind, node_##kind>;
+    own.render_##kind = render_kind<rule_of_##kind, node_##kind>;
 #define OPERATOR(name, ...)                                                                        \
     own.operations.build_operator_##name = quillet_operator_##name##_mysql_builder;
 #define FUNCTION(name, ...)                                                                        \
-    if (!mysql::functions[function_id_##name].is_reserved)                                         \
+    if (!functions[function_id_##name].is_reserved)                                                \
         own.operations.build_function_##name = quillet_function_##name##_mysql_builder;
 #include "quillet_mysql_slots.def"
-    own.operators = mysql::operators.data();
-    own.functions = mysql::functions.data();
+    own.operators = operators.data();
+    own.functions = functions.data();
     own.cast = &mysql::cast;
     own.refuse = mysql::keep_reason;
     return own;

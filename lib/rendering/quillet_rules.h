@@ -59,20 +59,20 @@ struct typed_text {
 // the type of its result are those of the default rule.
 struct operator_rule {
     text_template text = {};
-    bool needs_all = true; // an absent operand is a failure
+    std::int32_t refusal = 0; // it is refused, with the dialect's reason
+    bool needs_all = true;    // an absent operand is a failure
+    bool has_truths = false;  // it is a truth test
 
-    // Of the default rules alone: the type of the result.
-    int (*type)(int left, int right) = nullptr;
+    // Of a truth test: by the value that is asked for, of TRUE, FALSE and UNKNOW; none for others.
+    std::array<text_template, 3> by_truth = {};
 
     // By the operands' types: the first row that fits; the default rule if none does.
     std::span<const typed_text> by_types = {};
 
-    // By the truth value that is asked for, of TRUE, FALSE and UNKNOWN; no text for another one.
-    std::array<text_template, 3> by_truth = {};
-    bool has_truths = false;
-
     renderer<node_expression> own = nullptr; // by a function
-    std::int32_t refusal = 0;                // it is refused, with the dialect's reason
+
+    // Of the default rules alone: the type of the result.
+    int (*type)(int left, int right) = nullptr;
 };
 
 // The arguments that a function's text takes: none, the last one as $1, all of them as $1, or the
@@ -124,8 +124,8 @@ constexpr operator_rule by_types(std::span<const typed_text> texts) { return {.b
 constexpr operator_rule by_truth(std::string_view of_true, std::string_view of_false,
                                  std::string_view of_unknown) {
     return {
-        .by_truth = {text_template(of_true), text_template(of_false), text_template(of_unknown)},
-        .has_truths = true};
+        .has_truths = true,
+        .by_truth = {text_template(of_true), text_template(of_false), text_template(of_unknown)}};
 }
 
 // A function's text.
