@@ -866,7 +866,7 @@ TEST(ParserState, AnErrorAtTheEndOfARemainderLosesTheQuery) {
     EXPECT_EQ(parse_on("DELETE FROM t").result, 1);
     EXPECT_EQ(shown_tree(parse_on("DELETE FROM u")), "main{delete_=delete{table{identifier=u}}}");
 
-    // "1" is followed by no exponent, which only the comment behind it shows.
+    // "1" is followed by no exponent, which only the comment after it shows.
     EXPECT_EQ(parse(")1e+").result, 1);
     EXPECT_EQ(parse_on("/*").result, 1);
     EXPECT_EQ(parse_on("").result, 1);

@@ -36,7 +36,7 @@ constexpr field_row row_of(const char *name, std::size_t offset) {
 struct kind_row {
     const char *name;
     std::size_t size;
-    std::vector<field_row> fields; // behind sql_type
+    std::vector<field_row> fields; // after sql_type
 };
 
 // clang-format off

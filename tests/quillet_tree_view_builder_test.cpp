@@ -237,7 +237,7 @@ TEST(TreeView, ChildrenInOrder) {
         EXPECT_EQ(viewed(tree), lines);
 }
 
-// Tables and joins come before the rest of their list, all other items behind it.
+// Tables and joins come before the rest of their list, all other items after it.
 TEST(TreeView, Lists) {
     const label_case cases[] = {
         {make(node_tables_list{.table = table(),

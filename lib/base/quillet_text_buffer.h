@@ -31,7 +31,7 @@ public:
 
     void append(char c) { *grow(1) = c; }
 
-    // Adds room for count characters behind the text and returns where it begins.
+    // Adds room for count characters after the text and returns where it begins.
     char *grow(std::size_t count) {
         if (capacity_ - size_ < count + 1)
             reserve(size_ + count + 1);

@@ -16,7 +16,7 @@ namespace {
 struct date_field {
     text_template text;
     text_template interval_text; // empty if no interval has the field
-    std::string_view mask;       // empty if nothing can be cut off behind it
+    std::string_view mask;       // empty if nothing can be cut off after it
 };
 
 constexpr date_field date_fields[] = {

@@ -29,7 +29,7 @@ char *_quillet_mysql_extract_interval(char *interval);
 char *_quillet_mysql_extract_date(const char *type, const char *date_expression,
                                   int date_expression_type);
 
-// A date expression cut off behind a field, as a new text; NULL if it cannot be.
+// A date expression cut off after a field, as a new text; NULL if it cannot be.
 char *_quillet_mysql_trunc_date(const char *type, const char *date_expression);
 
 // The specifier of DATE_FORMAT for a word of a pattern, as a new text; NULL if there is none.

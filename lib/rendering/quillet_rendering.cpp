@@ -6,12 +6,7 @@ namespace quillet {
 
 namespace {
 
-// Takes over the memory of a scratch, or gives it back unless that has a larger one or it is too
-// large.
-template <class Element> void take_over(std::vector<Element> &mine, std::vector<Element> &kept) {
-    mine.swap(kept);
-}
-
+// Gives the memory of a scratch back, unless there is more by now, or it is too large to be kept.
 template <class Element> void give_back(std::vector<Element> &mine, std::vector<Element> &kept) {
     if (mine.capacity() <= kept.capacity() || mine.capacity() > QUILLET_KEPT_STEPS_MAXIMUM)
         return;
@@ -23,9 +18,9 @@ template <class Element> void give_back(std::vector<Element> &mine, std::vector<
 
 rendering::rendering(builder *renderer) : self(renderer), out(memory_.gaps) {
     rendering_memory &kept = kept_rendering_memory;
-    take_over(memory_.lists, kept.lists);
-    take_over(memory_.expressions, kept.expressions);
-    take_over(memory_.gaps, kept.gaps);
+    memory_.lists.swap(kept.lists);
+    memory_.expressions.swap(kept.expressions);
+    memory_.gaps.swap(kept.gaps);
     is_outermost_ = !kept.stack.is_set();
     if (is_outermost_)
         kept.stack.set(__builtin_frame_address(0));

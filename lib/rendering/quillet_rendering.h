@@ -24,7 +24,7 @@
 
 namespace quillet {
 
-// Part of a list whose items before it are being rendered.
+// A list node whose earlier items are being rendered.
 struct list_step {
     void *node;
     void *data;
@@ -44,7 +44,7 @@ struct expression_step {
     enum : std::uint8_t { parentheses, application, type_cast } kind = parentheses;
     std::int32_t status = 0; // of what was tried on the node before
     node_expression *node = nullptr;
-    operator_use use{};                      // of an operation; of a cast the dialect alone
+    operator_use use{};                      // of an application; of a cast the dialect alone
     const expression_frame *frame = nullptr; // NULL for none
     output::gap frame_gap{};
     output::place begin{}; // of the text, after the frame's beginning

@@ -28,7 +28,7 @@ struct node_field {
     std::uint16_t offset = 0;
 };
 
-// The fields of one kind behind sql_type, in order; the last one has the role end.
+// The fields of one kind after sql_type, in order; the last one has the role end.
 #define NODE(kind) inline constexpr node_field fields_of_##kind[] = {
 #define CHILD(kind, type, field) {field_role::child, kind_##type, offsetof(node_##kind, field)},
 #define CODE(kind, field) {field_role::code, node_kind_count, offsetof(node_##kind, field)},

@@ -251,13 +251,13 @@ TEST(Size, CostsTimeInProportion) {
     }
 }
 
-// Nested constructs: what stands before and behind the innermost operand at every level.
+// Nested constructs: what stands before and after the innermost operand at every level.
 struct nesting {
     const char *name;
     const char *before;
-    const char *behind;
+    const char *after;
     const char *rendered_before;
-    const char *rendered_behind;
+    const char *rendered_after;
     int depth; // nearly the parser's limit
 };
 
@@ -275,7 +275,7 @@ const nesting nestings[] = {
 };
 
 std::string nested_query(const nesting &n, int depth) {
-    return "select " + repeated(n.before, depth) + "x" + repeated(n.behind, depth);
+    return "select " + repeated(n.before, depth) + "x" + repeated(n.after, depth);
 }
 
 // Up to the depth that the stack surely holds; if that is not the parser's limit, what is deeper
@@ -289,7 +289,7 @@ TEST(Depth, UpToTheParsersLimit) {
             if (is_sure || result.code == 0) {
                 EXPECT_EQ(result.code, 0) << n.name << ' ' << depth;
                 EXPECT_TRUE(result.text == "SELECT " + repeated(n.rendered_before, depth) + "x" +
-                                               repeated(n.rendered_behind, depth))
+                                               repeated(n.rendered_after, depth))
                     << n.name << ' ' << depth;
             } else {
                 EXPECT_EQ(result.code, -3) << n.name << ' ' << depth;
