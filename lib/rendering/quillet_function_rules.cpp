@@ -54,9 +54,10 @@ outcome render_function(rendering &r, const dialect &home, int index, node_funct
 
 build_result *render_function_alone(const dialect &home, int index, builder *self,
                                     node_function_call *call) {
-    return render_alone([&home, index](rendering &r, node_function_call *own,
-                                       void *) { return render_function(r, home, index, own); },
-                        self, call, nullptr);
+    const auto render = [&home, index](rendering &r, node_function_call *own, void *) {
+        return render_function(r, home, index, own);
+    };
+    return render_alone(render, self, call, nullptr);
 }
 
 } // namespace quillet

@@ -178,9 +178,10 @@ outcome render_operator(rendering &r, operator_use use, node_expression *node, v
 
 build_result *render_operator_alone(operator_use use, builder *self, node_expression *node,
                                     void *data) {
-    return render_alone([use](rendering &r, node_expression *own,
-                              void *own_data) { return render_operator(r, use, own, own_data); },
-                        self, node, data);
+    const auto render = [use](rendering &r, node_expression *own, void *own_data) {
+        return render_operator(r, use, own, own_data);
+    };
+    return render_alone(render, self, node, data);
 }
 
 } // namespace quillet

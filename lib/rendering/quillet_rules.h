@@ -55,8 +55,8 @@ struct typed_text {
     std::int32_t refusal = 0; // the dialect's reason, 0 for none
 };
 
-// How an operator is rendered: by its text, if nothing else is said. The operands that it needs and
-// the type of its result are those of the default rule.
+// How an operator is rendered: by its text, if nothing else is said. It needs the operands of its
+// text, or without one those of the default rule's; the type of its result is the default rule's.
 struct operator_rule {
     text_template text = {};
     std::int32_t refusal = 0; // it is refused, with the dialect's reason
@@ -144,7 +144,7 @@ template <class Node> struct own_row {
 
 template <class Node> constexpr own_row<Node> own(renderer<Node> render) { return {render}; }
 
-// Refused, and refused in spite of which the default rendering stays.
+// Refused; and reserved: a function's operation refuses, but its slot is left to the default.
 struct refused_row {
     std::int32_t reason;
 
