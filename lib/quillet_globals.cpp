@@ -18,7 +18,7 @@ const char *const error_descriptions[4] = {"", "no such builder", "invalid query
                                            "can not translate"};
 int32_t error_code = 0;
 int32_t last_builder_id = 0;
-builder *kept_builders[4] = {};
+builder *quillet::kept_builders[4] = {};
 
 // Owned by the parser: the tree of the last parse; during a parse its text; how deep it is in
 // comments, which the next parse goes on with; what was read on.

@@ -17,9 +17,16 @@ extern "C" {
 extern const char *const error_descriptions[4]; /* by the negated code */
 extern int32_t error_code;                      /* of the last translation */
 extern int32_t last_builder_id;                 /* that the last translation asked for */
-extern struct builder *kept_builders[4];        /* our own, made when first needed and kept */
 
 #ifdef __cplusplus
+}
+
+struct builder;
+
+namespace quillet {
+
+extern builder *kept_builders[4]; // our own, made when first needed and kept
+
 }
 #endif
 

@@ -227,7 +227,7 @@ enum class reason : std::int32_t { FULL_JOIN = -7 };
 
 const quillet::dialect of_the_test = [] {
     quillet::dialect own{};
-    own.refuse = [](std::int32_t code) { kept_reason = code; };
+    own.keep_reason = [](std::int32_t code) { kept_reason = code; };
     return own;
 }();
 

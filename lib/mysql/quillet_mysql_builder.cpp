@@ -93,7 +93,7 @@ constinit const dialect quillet::mysql_dialect = [] {
     own.operators = operators.data();
     own.functions = functions.data();
     own.cast = &mysql::cast;
-    own.refuse = mysql::keep_reason;
+    own.keep_reason = mysql::keep_reason;
     return own;
 }();
 

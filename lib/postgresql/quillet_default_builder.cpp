@@ -74,7 +74,7 @@ constinit const dialect quillet::postgresql_dialect = {
     .functions = nullptr,
     .cast = &cast,
     .frame = nullptr,
-    .refuse = nullptr,
+    .keep_reason = nullptr,
 };
 
 builder *quillet_default_builder_create(void) {

@@ -20,8 +20,14 @@ struct dialect {
     const operator_rule *operators; // by index, for the slots that it fills
     const function_rule *functions; // likewise
     const cast_rule *cast;
-    const expression_frame *frame;       // NULL for none
-    void (*refuse)(std::int32_t reason); // keeps the reason of a refusal; NULL: it refuses nothing
+    const expression_frame *frame;            // NULL for none
+    void (*keep_reason)(std::int32_t reason); // of a refusal; NULL: it refuses nothing
+
+    // Refuses a construct.
+    outcome refuse(std::int32_t reason) const {
+        keep_reason(reason);
+        return refused_part;
+    }
 };
 
 // The dialects, the default one first. They are listed where all of them are known, at the top of

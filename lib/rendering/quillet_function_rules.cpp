@@ -19,10 +19,8 @@ int default_type_of(int function, const node_function_call &call) {
 
 outcome render_function(rendering &r, const dialect &home, int index, node_function_call *call) {
     const function_rule &rule = home.functions[index];
-    if (rule.refusal) {
-        home.refuse(rule.refusal);
-        return refused_part;
-    }
+    if (rule.refusal)
+        return home.refuse(rule.refusal);
     if (rule.own)
         return rule.own(r, call, nullptr);
     node_expression *last = last_argument(*call);

@@ -86,8 +86,7 @@ outcome write_by_types(rendering &r, operator_use use, node_expression *node, vo
     if (const typed_text *chosen = text_for(use.rule().by_types, left, right)) {
         if (chosen->refusal) {
             all.drop();
-            use.home->refuse(chosen->refusal);
-            return refused_part;
+            return use.home->refuse(chosen->refusal);
         }
         node->sql_type = chosen->type;
         return all.write(chosen->text, chosen->skipped);
@@ -164,10 +163,8 @@ outcome end_operator(rendering &r, operator_use use, node_expression *node, void
 
 outcome render_operator(rendering &r, operator_use use, node_expression *node, void *data) {
     const operator_rule &rule = use.rule();
-    if (rule.refusal) {
-        use.home->refuse(rule.refusal);
-        return refused_part;
-    }
+    if (rule.refusal)
+        return use.home->refuse(rule.refusal);
     if (rule.own)
         return rule.own(r, node, data);
     if (is_missing_operand(use, *node))

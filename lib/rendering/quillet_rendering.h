@@ -98,8 +98,7 @@ public:
             return rule.own(*this, node, data);
         if (!rule.refusal || (rule.is_refused && !rule.is_refused(*node)))
             return defer(node, data);
-        home.refuse(rule.refusal);
-        return refused_part;
+        return home.refuse(rule.refusal);
     }
 
     // Renders a child after what was written since a place, with a blank between the two if neither
