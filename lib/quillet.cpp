@@ -3,9 +3,12 @@
 #include <cstdlib>
 #include <iterator>
 #include <memory>
+#include <new>
 #include <optional>
+#include <utility>
 
 #include "quillet_builder.h"
+#include "quillet_date_format_scanner.h"
 #include "quillet_default_rendering.h"
 #include "quillet_globals.h"
 #include "quillet_letter_case.h"
@@ -13,6 +16,8 @@
 #include "quillet_mysql_rendering.h"
 #include "quillet_parser.h"
 #include "quillet_postgresql_builder.h"
+#include "quillet_rendering.h"
+#include "quillet_scanner.h"
 #include "quillet_text_buffer.h"
 #include "quillet_tree_memory.h"
 #include "quillet_tree_view_builder.h"
@@ -44,11 +49,6 @@ static_assert(builder_count == std::size(quillet_builders));
 
 bool is_builder(int id) { return id >= 0 && id < builder_count; }
 
-int fail(int code) {
-    error_code = code;
-    return code;
-}
-
 struct builder_freed {
     void operator()(builder *self) const { quillet_builder_free(self); }
 };
@@ -61,6 +61,8 @@ builder *own_builder(const quillet_builder_info &info) {
             builder *&kept = kept_builders[id];
             if (!kept)
                 kept = info.constructor();
+            if (!kept)
+                throw std::bad_alloc();
             return kept;
         }
     return nullptr;
@@ -68,7 +70,7 @@ builder *own_builder(const quillet_builder_info &info) {
 
 // Renders the tree in root and frees it.
 build_result *render_root(builder *renderer) {
-    build_result *result = quillet_call_build_main(renderer, root, nullptr);
+    build_result *result = renderer ? quillet_call_build_main(renderer, root, nullptr) : nullptr;
     quillet_node_main_free(root);
     root = nullptr;
     return result;
@@ -102,31 +104,51 @@ int quillet_get_builder_id(const char *name) {
     return -1;
 }
 
-int quillet_translate_query(const char *input, char **output, int builder_id) {
-    error_code = QUILLET_SUCCESS;
-    last_builder_id = builder_id;
-    if (!is_builder(builder_id))
-        return fail(QUILLET_NO_SUCH_BUILDER);
-    const quillet_builder_info &info = *quillet_builders[builder_id];
+namespace {
+
+// Translates, and returns the code.
+int translate(const char *input, char **output, const quillet_builder_info &info) {
     builder *ours = own_builder(info);
     std::optional<tree_arena> arena;
     if (ours)
         arena.emplace();
     if (quillet_parse(input) == QUILLET_PARSE_SYNTAX_ERROR)
-        return fail(QUILLET_INVALID_QUERY);
+        return QUILLET_INVALID_QUERY;
     if (!root)
-        return fail(QUILLET_CAN_NOT_TRANSLATE); // too deep or too large for the parser
+        return QUILLET_CAN_NOT_TRANSLATE; // too deep or too large for the parser
 
     const std::unique_ptr<builder, builder_freed> of_host(ours ? nullptr : info.constructor());
     const std::unique_ptr<build_result, freed> result(render_root(ours ? ours : of_host.get()));
     if (!result)
-        return fail(QUILLET_CAN_NOT_TRANSLATE);
+        return QUILLET_CAN_NOT_TRANSLATE;
     std::unique_ptr<char, freed> text(result->query);
-    if (result->build_result != QUILLET_SUCCESS)
-        return fail(result->build_result);
-    if (text)
+    if (result->build_result == QUILLET_SUCCESS && text)
         *output = text.release();
-    return QUILLET_SUCCESS;
+    return result->build_result;
+}
+
+} // namespace
+
+int quillet_translate_query(const char *input, char **output, int builder_id) {
+    error_code = QUILLET_SUCCESS;
+    last_builder_id = builder_id;
+    if (!is_builder(builder_id))
+        return error_code = QUILLET_NO_SUCH_BUILDER;
+    try {
+        return error_code = translate(input, output, *quillet_builders[builder_id]);
+    } catch (const std::bad_alloc &) {
+        return error_code = QUILLET_CAN_NOT_TRANSLATE;
+    }
+}
+
+void quillet_release_memory(void) {
+    release_arena_memory();
+    release_rendering_memory();
+    _quillet_scanner_release();
+    _quillet_date_format_scanner_reset();
+    for (builder *&kept : kept_builders)
+        if (kept)
+            quillet_builder_free(std::exchange(kept, nullptr));
 }
 
 const char *quillet_get_error_description(void) {

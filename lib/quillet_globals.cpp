@@ -21,21 +21,26 @@ int32_t last_builder_id = 0;
 builder *quillet::kept_builders[4] = {};
 
 // Owned by the parser: the tree of the last parse; during a parse its text; how deep it is in
-// comments, which the next parse goes on with; what was read on.
+// comments, which the next parse goes on with; what was read on; the memory of both.
 node_main *root = nullptr;
 parse_data *quillet_query = nullptr;
 int quillet_comment_count = 0;
 quillet_scanner_reading _quillet_scanner_reading = {};
+quillet_blocks _quillet_scanner_blocks = {};
+quillet_blocks _quillet_parser_blocks = {};
 
-// Owned by the date-format parser, during a parse alone.
+// Owned by the date-format parser: its pattern and text during a parse, the scanner's memory.
 parse_data *quillet_date_format = nullptr;
 char *quillet_format_string = nullptr;
+quillet_blocks _quillet_date_format_blocks = {};
 
 // Owned by the builder mysql: the reason of its last refusal. Nothing resets it.
 int32_t mysql_error_code = 0;
 
-// Owned by the tree's memory: the arena of the translation under way, and what is kept of it.
+// Owned by the tree's memory: the arena of the translation under way, and what is kept of it;
+// without one, the blocks of the tree that is being parsed.
 quillet_tree_memory _quillet_tree_memory = {};
+constinit quillet::tree_record quillet::recorded_blocks;
 
 // Owned by the renderings: the scratch that one leaves to the next, and the bound of the stack.
 constinit quillet::rendering_memory quillet::kept_rendering_memory;

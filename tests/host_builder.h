@@ -38,6 +38,8 @@ public:
 private:
     static builder *create() {
         builder *created = constructor();
+        if (!created)
+            return nullptr;
 #define NODE(kind) stand_in<node_##kind, &builder::build_##kind>::install(*created);
 #include "quillet_nodes.def"
 #define OPERATOR(name, ...)                                                                        \

@@ -81,12 +81,12 @@ TEST(StackBound, IsNotReachedBeforeItIsSet) {
 
 // Takes stack by the kilobyte until the bound is reached, and returns how much.
 [[gnu::noinline]] std::size_t taken_until(stack_bound &bound, const char *begin) {
-    volatile char frame[1024] = {};
+    volatile std::size_t frame[128] = {};
     frame[0] = 1;
     const auto *here = static_cast<const char *>(__builtin_frame_address(0));
     if (bound.is_reached())
-        return static_cast<std::size_t>(begin - here) + (frame[0] - 1U);
-    return taken_until(bound, begin) + (frame[0] - 1U);
+        return static_cast<std::size_t>(begin - here) + (frame[0] - 1);
+    return taken_until(bound, begin) + (frame[0] - 1);
 }
 
 struct measurement {

@@ -28,7 +28,8 @@ enum {
     QUILLET_SUCCESS = 0,
     QUILLET_NO_SUCH_BUILDER = -1,
     QUILLET_INVALID_QUERY = -2, /* a syntax error, or a part missing that the construct requires */
-    QUILLET_CAN_NOT_TRANSLATE = -3 /* the builder has no equal for a construct */
+    QUILLET_CAN_NOT_TRANSLATE = -3 /* the builder has no equal for a construct; too deep, too large,
+                                      or no memory */
 };
 
 /* Makes the library ready; to be called before anything else here. Calling it again does no harm.
@@ -52,6 +53,13 @@ QUILLET_API int quillet_get_builder_id(const char *name);
  * releases it with free. Returns a negative code otherwise and leaves *output alone.
  */
 QUILLET_API int quillet_translate_query(const char *input, char **output, int builder_id);
+
+/*
+ * Gives back the memory that translations leave for the next one: up to 4 MiB, up to 150 MiB after
+ * a large statement until a small one has been translated, and twice the longest token. To be
+ * called between translations. What a failed query left unread stays.
+ */
+QUILLET_API void quillet_release_memory(void);
 
 /* Returns the description of the last translation's code, a static text; "" for success. */
 QUILLET_API const char *quillet_get_error_description(void);

@@ -22,8 +22,8 @@ typedef struct build_result {
     int32_t build_result; /* 0, or the last failure in rendering order, a QUILLET_BUILD_ code */
 } build_result;
 
-/* Returns a new record without a text and with the result 0. The caller owns it: it takes or frees
-   the text, and frees the record itself with free. */
+/* Returns a new record without a text and with the result 0, NULL without memory. The caller owns
+   it: it takes or frees the text, and frees the record itself with free. */
 QUILLET_API build_result *quillet_build_result_create(void);
 
 #ifdef __cplusplus

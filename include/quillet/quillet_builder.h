@@ -4,6 +4,7 @@
  *
  * An operation takes the builder, a node and a data argument whose meaning the caller and the
  * operation agree on (mostly NULL), and returns a new build_result that the caller owns, or NULL.
+ * Our own operations also return NULL without memory, and the translation then fails.
  * It renders its children through the builder that it got, so that a replaced operation applies at
  * every depth.
  */
@@ -34,7 +35,7 @@ struct builder {
 };
 
 /* Returns a new builder that renders PostgreSQL text: every node kind and operator has its default
-   operation, the functions have none. The caller owns it. */
+   operation, the functions have none. The caller owns it. Returns NULL without memory. */
 QUILLET_API builder *quillet_default_builder_create(void);
 
 /* Frees a builder, its parent first. The argument must not be NULL. */

@@ -32,12 +32,12 @@ typedef struct date_format_node {
 /*
  * Takes a pattern apart, of which it makes a copy. The argument must not be NULL. Returns the words
  * as a list in their order, which the caller owns and frees with quillet_date_format_node_free;
- * NULL for a pattern without any. Every pattern has a result; a newline outside of quotes is no
- * word and is printed on standard output.
+ * NULL for a pattern without any, and without memory. Every pattern has a result; a newline outside
+ * of quotes is no word and is printed on standard output.
  */
 QUILLET_API date_format_node *quillet_date_format_parse(const char *pattern);
 
-/* Returns a new node, every field zero. The caller owns it. */
+/* Returns a new node, every field zero, which the caller owns; NULL without memory. */
 QUILLET_API date_format_node *quillet_date_format_node_create(void);
 
 /* Frees a list from the given node on, with its texts; NULL is ignored. */

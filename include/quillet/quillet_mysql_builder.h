@@ -17,7 +17,7 @@ extern QUILLET_API quillet_builder_info quillet_mysql_builder_info;
 /* Returns the builder's record in the registry, a static one. */
 QUILLET_API quillet_builder_info *quillet_mysql_builder_get_info(void);
 
-/* Returns a new builder, which the caller owns. */
+/* Returns a new builder, which the caller owns; NULL without memory. */
 QUILLET_API builder *quillet_mysql_builder_create(void);
 
 /* Returns the code of the last refusal, 0 if there was none in this process. */

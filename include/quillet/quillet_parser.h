@@ -30,13 +30,15 @@ extern "C" {
 enum {
     QUILLET_PARSE_ACCEPTED = 0,
     QUILLET_PARSE_SYNTAX_ERROR = 1,
-    QUILLET_PARSE_STACK_OVERFLOW = 2 /* nested too deeply, or the statement or its tree too large */
+    QUILLET_PARSE_STACK_OVERFLOW = 2 /* nested too deeply, the statement or its tree too large, or
+                                        no memory */
 };
 
 /*
  * Parses one statement, of which it makes a copy. The argument must not be NULL. Returns
  * QUILLET_PARSE_ACCEPTED and leaves the tree for quillet_take_root, or another result without a
- * tree. A tree that was left before is forgotten, not freed: take it first.
+ * tree. A tree that was left before is forgotten, not freed: take it first. Without memory,
+ * what the scanner had left unread is lost.
  *
  * On standard output it prints
  *

@@ -1,6 +1,6 @@
 /*
  * Joining and cutting texts. A text is NUL-terminated and comes from malloc; NULL is no text at
- * all, and joining it to something leaves that as it is.
+ * all, and joining it to something leaves that as it is. Without memory the result is NULL.
  *
  * The sconcat operations put one blank between the two texts, only when neither is empty. The
  * operations with _free_ in their names release the arguments they name (NULL is ignored) once the

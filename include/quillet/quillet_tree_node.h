@@ -58,7 +58,8 @@ enum { QUILLET_AGREGATE_DISTINCT = 1, QUILLET_AGREGATE_ALL = 2, QUILLET_AGREGATE
 /*
  * For every kind:
  *
- *   node_K *quillet_node_K_create(void)     a new record, every field zero; the caller owns it
+ *   node_K *quillet_node_K_create(void)     a new record, every field zero, which the caller
+ *                                           owns; NULL without memory
  *   void quillet_node_K_free(node_K *node)  frees the record with its children and texts, in the
  *                                           order of its fields; NULL is ignored. Uses no stack in
  *                                           proportion to the tree

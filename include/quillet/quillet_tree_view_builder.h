@@ -19,7 +19,7 @@ extern QUILLET_API quillet_builder_info quillet_tree_view_builder_info;
 /* Returns the builder's record in the registry, a static one. */
 QUILLET_API quillet_builder_info *quillet_tree_view_builder_get_info(void);
 
-/* Returns a new builder, which the caller owns. */
+/* Returns a new builder, which the caller owns; NULL without memory. */
 QUILLET_API builder *quillet_tree_view_builder_create(void);
 
 /* Returns a new text: indentation blanks, the label, the number in brackets and a newline. */

@@ -17,7 +17,7 @@ extern QUILLET_API quillet_builder_info quillet_type_view_builder_info;
 /* Returns the builder's record in the registry, a static one. */
 QUILLET_API quillet_builder_info *quillet_type_view_builder_get_info(void);
 
-/* Returns a new builder, which the caller owns. */
+/* Returns a new builder, which the caller owns; NULL without memory. */
 QUILLET_API builder *quillet_type_view_builder_create(void);
 
 /* Renders an expression by its parent's operation and puts its type before it: TYPE ( text ) . */

@@ -3,16 +3,25 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
+
+#include "quillet_blocks.h"
+#include "quillet_text_buffer.h"
+
+using quillet::freed;
 
 parse_data *_quillet_parse_data_create(const char *text) {
-    auto *data = static_cast<parse_data *>(std::malloc(sizeof(parse_data)));
     const std::size_t length = std::strlen(text);
-    *data = {static_cast<char *>(std::malloc(length + 1)), static_cast<int>(length), 0};
+    std::unique_ptr<parse_data, freed> data(
+        static_cast<parse_data *>(_quillet_take(sizeof(parse_data))));
+    *data = {static_cast<char *>(_quillet_take(length + 1)), static_cast<int>(length), 0};
     std::memcpy(data->string, text, length + 1);
-    return data;
+    return data.release();
 }
 
 void _quillet_parse_data_free(parse_data *data) {
+    if (!data)
+        return;
     std::free(data->string);
     std::free(data);
 }

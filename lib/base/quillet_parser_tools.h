@@ -10,10 +10,10 @@
 extern "C" {
 #endif
 
-/* Returns a new parse_data with a copy of text. The caller owns it. */
+/* Returns a new parse_data with a copy of text, which the caller owns; throws without memory. */
 parse_data *_quillet_parse_data_create(const char *text);
 
-/* Frees a parse_data and its text. The argument must not be NULL. */
+/* Frees a parse_data and its text. NULL is ignored. */
 void _quillet_parse_data_free(parse_data *data);
 
 /* Copies the next bytes of the text, at most max_size, into buffer (no terminator is added) and

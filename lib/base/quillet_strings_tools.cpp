@@ -21,6 +21,8 @@ char *_quillet_concat(const char *first, const char *second, int space) {
     const std::size_t b = second ? std::strlen(second) : 0;
     const std::size_t blank = a && b && space ? 1 : 0;
     char *joined = static_cast<char *>(std::malloc(a + blank + b + 1));
+    if (!joined)
+        return nullptr;
     if (a)
         std::memcpy(joined, first, a);
     if (blank)
@@ -76,6 +78,8 @@ char *quillet_extract_string(const char *string, int skeep_at_begin, int skeep_a
     const long long kept = length - skeep_at_begin - skeep_at_end;
     const std::size_t n = string && kept > 0 ? static_cast<std::size_t>(kept) : 0;
     char *extracted = static_cast<char *>(std::malloc(n + 1));
+    if (!extracted)
+        return nullptr;
     if (n)
         std::memcpy(extracted, string + skeep_at_begin, n);
     extracted[n] = '\0';

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <new>
 #include <string_view>
 
 namespace quillet {
@@ -56,7 +57,11 @@ private:
         std::size_t capacity = capacity_ ? capacity_ : 1024;
         while (capacity < needed)
             capacity *= 2;
-        data_.reset(static_cast<char *>(std::realloc(data_.release(), capacity)));
+        auto *moved = static_cast<char *>(std::realloc(data_.get(), capacity));
+        if (!moved)
+            throw std::bad_alloc();
+        static_cast<void>(data_.release());
+        data_.reset(moved);
         capacity_ = capacity;
     }
 

@@ -33,10 +33,11 @@ inline void fetch(const void *node) {
             reinterpret_cast<const void *>(address + static_cast<std::uintptr_t>(offset)));
 }
 
-// FetchedAhead is how many steps before its turn a node is asked for; 0 is never.
-template <class Step, std::size_t FetchedAhead = 6> class walk {
+// FetchedAhead is how many steps before its turn a node is asked for; 0 is never. Memory is a
+// vector of steps.
+template <class Step, std::size_t FetchedAhead = 6, class Memory = std::vector<Step>> class walk {
 public:
-    explicit walk(std::vector<Step> &memory) : steps_(memory), bottom_(memory.size()) {}
+    explicit walk(Memory &memory) : steps_(memory), bottom_(memory.size()) {}
     walk(const walk &) = delete;
     walk &operator=(const walk &) = delete;
 
@@ -58,7 +59,7 @@ public:
     }
 
 private:
-    std::vector<Step> &steps_;
+    Memory &steps_;
     const std::size_t bottom_;
 };
 

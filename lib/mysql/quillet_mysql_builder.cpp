@@ -98,8 +98,9 @@ constinit const dialect quillet::mysql_dialect = [] {
 }();
 
 builder *quillet_mysql_builder_create(void) {
-    builder *created = quillet_default_builder_create();
-    created->parent = quillet_default_builder_create();
+    builder *created = create_derived_builder();
+    if (!created)
+        return nullptr;
     const builder &own = mysql_dialect.operations;
 #define KIND(kind, ...) created->build_##kind = own.build_##kind;
 #define OPERATOR(name, ...) created->build_operator_##name = own.build_operator_##name;

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <memory>
 #include <string>
 
+#include "quillet_date_format_scanner.h"
 #include "quillet_function_rules.h"
 #include "quillet_mysql_rendering.h"
 #include "quillet_operands.h"
@@ -61,15 +61,10 @@ bool append_specifier(text_buffer &out, const date_format_node &node) {
     return true;
 }
 
-struct format_freed {
-    void operator()(date_format_node *list) const { quillet_date_format_node_free(list); }
-};
-
 // Appends the mask for a pattern. Returns false at the first word that has no equal; the mask then
 // ends before it.
 bool append_mask(text_buffer &out, std::string_view pattern) {
-    const std::unique_ptr<date_format_node, format_freed> words(
-        quillet_date_format_parse(std::string(pattern).c_str()));
+    const date_format_list words = parse_date_format(std::string(pattern).c_str());
     for (const date_format_node *word = words.get(); word; word = word->next)
         if (!append_specifier(out, *word))
             return false;

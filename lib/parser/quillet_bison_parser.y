@@ -61,7 +61,10 @@ extern "C" int yy_quillet_parse(void);
 %code {
 #include "quillet_limits.h"
 #include "quillet_parser_actions.h"
+#include "quillet_scanner.h"
 
+#define YYMALLOC(size) _quillet_blocks_take(&_quillet_parser_blocks, nullptr, size)
+#define YYFREE(block) _quillet_blocks_give(&_quillet_parser_blocks, block)
 #define YYINITDEPTH QUILLET_PARSER_STACK_INITIAL
 #define YYMAXDEPTH QUILLET_PARSER_STACK_MAXIMUM
 

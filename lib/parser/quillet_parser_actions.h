@@ -101,6 +101,8 @@ inline int type_named(node_identifier *word) {
 
 inline int type_named(node_identifier *first, node_identifier *second) {
     char *words = quillet_sconcat(first->name, second->name);
+    if (!words)
+        throw std::bad_alloc();
     const int type = quillet_string_to_type(words);
     std::free(words);
     release(first);

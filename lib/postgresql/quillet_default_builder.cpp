@@ -79,7 +79,8 @@ constinit const dialect quillet::postgresql_dialect = {
 
 builder *quillet_default_builder_create(void) {
     auto *created = static_cast<builder *>(std::malloc(sizeof(builder)));
-    *created = postgresql_dialect.operations;
+    if (created)
+        *created = postgresql_dialect.operations;
     return created;
 }
 

@@ -22,8 +22,10 @@ rendering::rendering(builder *renderer) : self(renderer), out(memory_.gaps) {
     memory_.expressions.swap(kept.expressions);
     memory_.gaps.swap(kept.gaps);
     is_outermost_ = !kept.stack.is_set();
-    if (is_outermost_)
+    if (is_outermost_) {
         kept.stack.set(__builtin_frame_address(0));
+        kept.is_lacking = false;
+    }
 }
 
 rendering::~rendering() {
@@ -63,6 +65,32 @@ outcome complete_select_item(rendering &r, node_identifier *identifier, const ou
     return result;
 }
 
+builder *create_derived_builder() {
+    builder *created = quillet_default_builder_create();
+    if (!created)
+        return nullptr;
+    created->parent = quillet_default_builder_create();
+    if (created->parent)
+        return created;
+    quillet_builder_free(created);
+    return nullptr;
+}
+
+std::unique_ptr<build_result, freed> new_result(std::int32_t status) {
+    std::unique_ptr<build_result, freed> record(quillet_build_result_create());
+    if (!record)
+        throw std::bad_alloc();
+    record->build_result = status;
+    return record;
+}
+
+void release_rendering_memory() {
+    rendering_memory given_back;
+    given_back.lists.swap(kept_rendering_memory.lists);
+    given_back.expressions.swap(kept_rendering_memory.expressions);
+    given_back.gaps.swap(kept_rendering_memory.gaps);
+}
+
 build_result *finished(rendering &r, outcome result) {
     if (!result.record)
         return nullptr;
@@ -71,13 +99,12 @@ build_result *finished(rendering &r, outcome result) {
         if (!r.has_room_for(0))
             result = refused_part;
     }
-    if (r.is_exhausted())
+    if (r.is_exhausted() || kept_rendering_memory.is_lacking)
         result = refused_part;
-    build_result *record = quillet_build_result_create();
-    record->build_result = result.status;
+    std::unique_ptr<build_result, freed> record = new_result(result.status);
     if (result.text)
         record->query = r.out.release();
-    return record;
+    return record.release();
 }
 
 } // namespace quillet

@@ -12,6 +12,8 @@
 #define QUILLET_RENDERING_H
 
 #include <cstdint>
+#include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -57,9 +59,14 @@ struct rendering_memory {
     std::vector<expression_step> expressions;
     output::memory gaps;
     stack_bound stack;
+    bool is_lacking =
+        false; // whether an operation has failed for want of memory, in the outermost one
 };
 
 extern rendering_memory kept_rendering_memory;
+
+// Gives back what is kept for the next rendering.
+void release_rendering_memory();
 
 class rendering {
     rendering_memory memory_; // what the gaps of the text below live in, so it comes first
@@ -227,16 +234,35 @@ private:
 // whose expression gave no text.
 outcome complete_select_item(rendering &r, node_identifier *identifier, const outcome &expression);
 
+// Returns a default builder with another one as its parent, which the caller owns; NULL without
+// memory.
+builder *create_derived_builder();
+
+// What a public operation returns of a rendering; NULL without memory.
+template <class Render> build_result *if_there_is_memory(Render render) {
+    try {
+        return render();
+    } catch (const std::bad_alloc &) {
+        kept_rendering_memory.is_lacking = true;
+        return nullptr;
+    }
+}
+
+// Returns a new record, never NULL.
+std::unique_ptr<build_result, freed> new_result(std::int32_t status);
+
 // The outcome of a rendering as a public operation returns it.
 build_result *finished(rendering &r, outcome result);
 
 // The body of a public operation: a rendering of one node by what is given.
 template <class Node, class Render>
 build_result *render_alone(Render render, builder *self, Node *node, void *data) {
-    rendering alone(self);
-    if (alone.is_exhausted())
-        return finished(alone, refused_part);
-    return finished(alone, render(alone, node, data));
+    return if_there_is_memory([&] {
+        rendering alone(self);
+        if (alone.is_exhausted())
+            return finished(alone, refused_part);
+        return finished(alone, render(alone, node, data));
+    });
 }
 
 } // namespace quillet

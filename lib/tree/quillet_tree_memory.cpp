@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <new>
 
 #include <sys/mman.h>
 
+#include "quillet_blocks.h"
 #include "quillet_limits.h"
 
 #if defined(__has_feature)
@@ -37,9 +39,11 @@ void free_chunk(chunk &freed) {
 chunk new_chunk(std::size_t size) {
     constexpr std::size_t large_page = 2UL * 1024 * 1024;
     if (size < large_page)
-        return {static_cast<char *>(std::malloc(size)), size};
+        return {static_cast<char *>(_quillet_take(size)), size};
     size = (size + large_page - 1) / large_page * large_page;
     void *begin = std::aligned_alloc(large_page, size);
+    if (!begin)
+        throw std::bad_alloc();
 #ifdef MADV_HUGEPAGE
     madvise(begin, size, MADV_HUGEPAGE);
 #endif
@@ -60,11 +64,39 @@ void begin_chunk(std::size_t room) {
     memory.end = next.begin + next.size;
 }
 
+void *take_block(std::size_t size) {
+    quillet::tree_record &record = quillet::recorded_blocks;
+    if (!record.is_on)
+        return _quillet_take(size);
+    record.taken.push_back(nullptr); // which may find no memory itself
+    return record.taken.back() = _quillet_take(size);
+}
+
+void free_all(std::vector<void *> &blocks) {
+    for (void *block : blocks)
+        std::free(block);
+    blocks.clear();
+}
+
 } // namespace
+
+// What is recorded is freed later, so that none of it comes twice.
+void _quillet_tree_give_block(void *block) {
+    quillet::tree_record &record = quillet::recorded_blocks;
+    if (!record.is_on) {
+        std::free(block);
+        return;
+    }
+    try {
+        record.given.push_back(block);
+    } catch (const std::bad_alloc &) {
+        record.is_incomplete = true;
+    }
+}
 
 void *_quillet_tree_take_more(size_t size) {
     if (!_quillet_tree_memory.has_arena)
-        return std::malloc(size);
+        return take_block(size);
     begin_chunk(size);
     return _quillet_tree_take(size);
 }
@@ -77,8 +109,8 @@ namespace quillet {
 
 tree_arena::tree_arena() {
 #ifndef QUILLET_WITHOUT_ARENA
-    _quillet_tree_memory.has_arena = 1;
     begin_chunk(1);
+    _quillet_tree_memory.has_arena = 1;
 #endif
 }
 
@@ -95,6 +127,27 @@ tree_arena::~tree_arena() {
         if (memory.chunks[i].size > usual_size(i))
             free_chunk(memory.chunks[i]);
     memory.used_chunks = memory.used_size = 0;
+}
+
+recorded_tree::recorded_tree() { recorded_blocks.is_on = !_quillet_tree_memory.has_arena; }
+
+recorded_tree::~recorded_tree() {
+    free_all(recorded_blocks.taken);
+    recorded_blocks = {};
+}
+
+bool recorded_tree::keep() {
+    if (recorded_blocks.is_incomplete)
+        return false;
+    free_all(recorded_blocks.given);
+    recorded_blocks.taken.clear();
+    return true;
+}
+
+void release_arena_memory() {
+    quillet_tree_memory &memory = _quillet_tree_memory;
+    for (; !memory.has_arena && memory.made_chunks > 0; --memory.made_chunks)
+        free_chunk(memory.chunks[memory.made_chunks - 1]);
 }
 
 } // namespace quillet

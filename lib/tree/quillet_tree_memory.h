@@ -30,7 +30,8 @@ struct quillet_tree_memory {
 
 extern struct quillet_tree_memory _quillet_tree_memory;
 
-/* Returns room from a new chunk of the arena, or from malloc while there is no arena. */
+/* Returns room from a new chunk of the arena, or from malloc while there is no arena; throws
+   without memory, as _quillet_tree_take does. */
 void *_quillet_tree_take_more(size_t size);
 
 /* Whether the arena holds more than a tree may take. Nothing more is to be put into it then. */
@@ -47,14 +48,19 @@ static inline void *_quillet_tree_take(size_t size) {
     return room;
 }
 
+/* Frees a block of a tree's from malloc. NULL is ignored. */
+void _quillet_tree_give_block(void *block);
+
 /* Frees a node's or a text's room; in an arena it goes with the arena. NULL is ignored. */
 static inline void _quillet_tree_give(void *room) {
     if (!_quillet_tree_memory.has_arena)
-        free(room);
+        _quillet_tree_give_block(room);
 }
 
 #ifdef __cplusplus
 }
+
+#include <vector>
 
 namespace quillet {
 
@@ -67,6 +73,32 @@ public:
     tree_arena(const tree_arena &) = delete;
     tree_arena &operator=(const tree_arena &) = delete;
 };
+
+// The blocks from malloc that the trees under way consist of, while they are recorded.
+struct tree_record {
+    bool is_on = false;
+    bool is_incomplete = false; // whether there was no memory for one of the given blocks
+    std::vector<void *> taken;
+    std::vector<void *> given; // some of them, which are to be freed
+};
+
+// While one lives, and there is no arena, what is taken for trees is recorded: unless keep is
+// called all of it is freed at the end. One at a time.
+class recorded_tree {
+public:
+    recorded_tree();
+    ~recorded_tree();
+    recorded_tree(const recorded_tree &) = delete;
+    recorded_tree &operator=(const recorded_tree &) = delete;
+
+    // Leaves the tree to somebody else. Returns whether that is possible.
+    bool keep();
+};
+
+extern tree_record recorded_blocks;
+
+// Gives back what is kept of earlier arenas, unless there is one.
+void release_arena_memory();
 
 } // namespace quillet
 #endif

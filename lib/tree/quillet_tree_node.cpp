@@ -1,6 +1,9 @@
 #include "quillet_tree_node.h"
 
+#include <cstddef>
 #include <cstring>
+#include <memory_resource>
+#include <new>
 #include <vector>
 
 #include "quillet_tree_memory.h"
@@ -8,17 +11,21 @@
 
 namespace {
 
+struct owned_node;
+using nodes = std::pmr::vector<owned_node>;
+using walk = quillet::walk<owned_node, 6, nodes>;
+
 // A node to be freed, and what frees it: its texts and itself; its children go into the walk.
 struct owned_node {
     void *node;
-    void (*free)(void *node, quillet::walk<owned_node> &left);
+    void (*free)(void *node, walk &left);
 };
 
-#define NODE(kind) void free_##kind(void *node, quillet::walk<owned_node> &left);
+#define NODE(kind) void free_##kind(void *node, walk &left);
 #include "quillet_nodes.def"
 
 #define NODE(kind)                                                                                 \
-    void free_##kind(void *node, [[maybe_unused]] quillet::walk<owned_node> &left) {               \
+    void free_##kind(void *node, [[maybe_unused]] walk &left) {                                    \
         auto *own = static_cast<node_##kind *>(node);
 #define CHILD(kind, type, field)                                                                   \
     if (own->field)                                                                                \
@@ -34,12 +41,28 @@ struct owned_node {
 void free_tree(owned_node tree) {
     if (!tree.node || _quillet_tree_memory.has_arena)
         return;
-    std::vector<owned_node> memory;
-    memory.reserve(64);
-    quillet::walk<owned_node> left(memory);
-    for (left.down(tree); left.is_down();) {
-        const owned_node next = left.up();
-        next.free(next.node, left);
+    constexpr std::size_t usual_depth = 128; // for which no memory is needed
+    alignas(owned_node) std::byte usual_memory[usual_depth * sizeof(owned_node)];
+    std::pmr::monotonic_buffer_resource resource(usual_memory, sizeof usual_memory);
+    nodes memory(&resource);
+    try {
+        memory.reserve(usual_depth);
+        walk left(memory);
+        for (left.down(tree); left.is_down();) {
+            const owned_node next = left.up();
+            next.free(next.node, left);
+        }
+    } catch (const std::bad_alloc &) { // what is left of a deep tree stays
+        memory.clear();
+    }
+}
+
+// Returns a zeroed record, NULL without memory.
+void *create_record(std::size_t size) {
+    try {
+        return std::memset(_quillet_tree_take(size), 0, size);
+    } catch (const std::bad_alloc &) {
+        return nullptr;
     }
 }
 
@@ -48,8 +71,7 @@ void free_tree(owned_node tree) {
 // quillet_node_<kind>_create and quillet_node_<kind>_free for every kind.
 #define NODE(kind)                                                                                 \
     node_##kind *quillet_node_##kind##_create(void) {                                              \
-        void *memory = _quillet_tree_take(sizeof(node_##kind));                                    \
-        return static_cast<node_##kind *>(std::memset(memory, 0, sizeof(node_##kind)));            \
+        return static_cast<node_##kind *>(create_record(sizeof(node_##kind)));                     \
     }                                                                                              \
     void quillet_node_##kind##_free(node_##kind *node) { free_tree({node, free_##kind}); }
 #include "quillet_nodes.def"

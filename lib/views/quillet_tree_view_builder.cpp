@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "quillet_limits.h"
+#include "quillet_rendering.h"
 #include "quillet_text_buffer.h"
 #include "quillet_tree_node_kinds.h"
 #include "quillet_walk.h"
@@ -72,6 +73,8 @@ struct level {
 };
 
 void append_foreign(text_buffer &out, build_result *result) {
+    if (!result && kept_rendering_memory.is_lacking)
+        throw std::bad_alloc();
     const std::unique_ptr<build_result, freed> record(result);
     const std::unique_ptr<char, freed> text(record ? record->query : nullptr);
     if (text)
@@ -91,11 +94,8 @@ build_result *view(builder *self, node_kind kind, const void *node, void *data) 
 
     show(kind, node, reinterpret_cast<std::intptr_t>(data));
     while (levels.is_down()) {
-        if (out.size() > QUILLET_TEXT_SIZE_MAXIMUM) {
-            build_result *refused = quillet_build_result_create();
-            refused->build_result = QUILLET_BUILD_CANNOT_RENDER;
-            return refused;
-        }
+        if (out.size() > QUILLET_TEXT_SIZE_MAXIMUM)
+            return new_result(QUILLET_BUILD_CANNOT_RENDER).release();
         level &current = levels.last();
         const node_field &field = *current.next;
         if (field.role == field_role::end) {
@@ -119,32 +119,38 @@ build_result *view(builder *self, node_kind kind, const void *node, void *data) 
         }
     }
 
-    build_result *result = quillet_build_result_create();
+    std::unique_ptr<build_result, freed> result = new_result(0);
     result->query = out.release();
-    return result;
+    return result.release();
 }
 
 } // namespace
 
 char *quillet_print(int indentation, const char *label, int number) {
-    text_buffer out;
-    append_blanks(out, indentation);
-    out.append(label);
-    out.append(" [");
-    append_number(out, number);
-    out.append("]\n");
-    return out.release();
+    try {
+        text_buffer out;
+        append_blanks(out, indentation);
+        out.append(label);
+        out.append(" [");
+        append_number(out, number);
+        out.append("]\n");
+        return out.release();
+    } catch (const std::bad_alloc &) {
+        return nullptr;
+    }
 }
 
 // quillet_<kind>_tree_view for every kind.
 #define NODE(kind)                                                                                 \
     build_result *quillet_##kind##_tree_view(builder *self, node_##kind *node, void *data) {       \
-        return view(self, kind_##kind, node, data);                                                \
+        return if_there_is_memory([=] { return view(self, kind_##kind, node, data); });            \
     }
 #include "quillet_nodes.def"
 
 builder *quillet_tree_view_builder_create(void) {
     auto *created = static_cast<builder *>(std::calloc(1, sizeof(builder)));
+    if (!created)
+        return nullptr;
 #define NODE(kind) created->build_##kind = quillet_##kind##_tree_view;
 #include "quillet_nodes.def"
     return created;

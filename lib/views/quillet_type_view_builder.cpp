@@ -67,8 +67,8 @@ constinit const dialect quillet::type_view_dialect = [] {
 }();
 
 builder *quillet_type_view_builder_create(void) {
-    builder *created = quillet_default_builder_create();
-    created->parent = quillet_default_builder_create();
-    created->build_expression = quillet_expression_type_view_builder;
+    builder *created = create_derived_builder();
+    if (created)
+        created->build_expression = quillet_expression_type_view_builder;
     return created;
 }
