@@ -129,18 +129,18 @@ tree_arena::~tree_arena() {
     memory.used_chunks = memory.used_size = 0;
 }
 
-recorded_tree::recorded_tree() { recorded_blocks.is_on = !_quillet_tree_memory.has_arena; }
+recorded_tree::recorded_tree() { record_.is_on = !_quillet_tree_memory.has_arena; }
 
 recorded_tree::~recorded_tree() {
-    free_all(recorded_blocks.taken);
-    recorded_blocks = {};
+    free_all(record_.taken);
+    record_ = {};
 }
 
 bool recorded_tree::keep() {
-    if (recorded_blocks.is_incomplete)
+    if (record_.is_incomplete)
         return false;
-    free_all(recorded_blocks.given);
-    recorded_blocks.taken.clear();
+    free_all(record_.given);
+    record_.taken.clear();
     return true;
 }
 

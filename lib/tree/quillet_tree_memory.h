@@ -82,6 +82,8 @@ struct tree_record {
     std::vector<void *> given; // some of them, which are to be freed
 };
 
+extern tree_record recorded_blocks;
+
 // While one lives, and there is no arena, what is taken for trees is recorded: unless keep is
 // called all of it is freed at the end. One at a time.
 class recorded_tree {
@@ -93,9 +95,10 @@ public:
 
     // Leaves the tree to somebody else. Returns whether that is possible.
     bool keep();
-};
 
-extern tree_record recorded_blocks;
+private:
+    tree_record &record_ = recorded_blocks;
+};
 
 // Gives back what is kept of earlier arenas, unless there is one.
 void release_arena_memory();

@@ -17,6 +17,9 @@
 #include "quillet_strings_tools.h"
 #include "quillet_tree_view_builder.h"
 
+// The linker gives the names.
+// NOLINTBEGIN(bugprone-reserved-identifier)
+
 extern "C" {
 int yy_quillet_lex_destroy(void);
 void *__real_malloc(std::size_t size);
@@ -108,6 +111,8 @@ void operator delete(void *block) noexcept {
 }
 
 void operator delete(void *block, std::size_t) noexcept { operator delete(block); }
+
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace {
 
