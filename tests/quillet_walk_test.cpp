@@ -7,6 +7,8 @@
 #include <ucontext.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <memory>
 #include <vector>
 
 #include "quillet_limits.h"
@@ -115,7 +117,11 @@ TEST(StackBound, IsThatOfTheRunningThread) {
         pthread_t thread{};
         measurement measured{size, 0};
         ASSERT_EQ(pthread_attr_init(&attributes), 0);
-        ASSERT_EQ(pthread_attr_setstacksize(&attributes, size), 0);
+        // A stack of our own: the system may give one that an earlier thread has left, of any size.
+        constexpr std::size_t page = 4096;
+        const std::unique_ptr<void, decltype(&std::free)> stack(std::aligned_alloc(page, size),
+                                                                &std::free);
+        ASSERT_EQ(pthread_attr_setstack(&attributes, stack.get(), size), 0);
         ASSERT_EQ(pthread_create(&thread, &attributes, measure, &measured), 0);
         pthread_join(thread, nullptr);
         pthread_attr_destroy(&attributes);
