@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <ctime>
-#include <fstream>
 #include <limits>
 #include <memory>
 #include <string>
@@ -127,21 +126,6 @@ int missing_stack() {
     return is_known && limit.rlim_cur < usual ? static_cast<int>(usual / limit.rlim_cur) : 1;
 }
 
-// The memory that there is for this process, in MiB: the machine's, or what a container allows.
-[[maybe_unused]] long available_memory() {
-    constexpr long kib = 1024;
-    long available = 0;
-    std::ifstream machine("/proc/meminfo");
-    for (std::string word; machine >> word;)
-        if (long amount = 0; (word == "MemAvailable:" || word == "SwapFree:") && machine >> amount)
-            available += amount / kib;
-    for (const char *limit :
-         {"/sys/fs/cgroup/memory.max", "/sys/fs/cgroup/memory/memory.limit_in_bytes"})
-        if (long bytes = 0; std::ifstream(limit) >> bytes)
-            available = std::min(available, bytes / kib / kib);
-    return available;
-}
-
 } // namespace
 
 TEST(Size, OfListsAndChains) {
@@ -219,9 +203,6 @@ TEST(Size, BeyondTheLimitOfQueries) {
 
 #if !defined(__SANITIZE_ADDRESS__) // which sees each node, and takes no account of their size
 TEST(Size, BeyondTheLimitOfTrees) {
-    constexpr long needed = 2304; // the limit, and what else the process has
-    if (available_memory() < needed)
-        GTEST_SKIP() << available_memory() << " MiB of memory are too few for a tree of 2 GiB";
     testing::internal::CaptureStdout();
     EXPECT_EQ(translate(of_members("select ", "a", "+", "", 100 * members), postgresql).code, -3);
     EXPECT_EQ(translate("select 1", postgresql).text, "SELECT 1");
