@@ -74,7 +74,7 @@ TEST(MysqlPage, HoldsEveryTextAndField) {
     for (const auto &[name, rule] : operators) {
         if (rule.text.count)
             expect(" | " + quoted(rule.text) + " |\n");
-        if (rule.has_truths)
+        if (rule.is_truth_test())
             expect(" | " + quoted(rule.by_truth[0]) + ", " + quoted(rule.by_truth[1]) + ", " +
                    quoted(rule.by_truth[2]) + " |\n");
         for (const typed_text &row : rule.by_types)

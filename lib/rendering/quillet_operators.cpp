@@ -17,14 +17,14 @@ constexpr name_index<operator_count> operator_names({
 // The text that says which operands are rendered: it need not be the one that they get.
 const text_template &form_of(operator_use use) {
     const operator_rule &rule = use.rule();
-    return rule.has_truths         ? rule.by_truth[0]
+    return rule.is_truth_test()    ? rule.by_truth[0]
            : rule.by_types.empty() ? rule.text
                                    : use.default_rule().text;
 }
 
 // The text, if it is known before the operands are.
 const text_template *known_text(const operator_rule &rule) {
-    return rule.has_truths || !rule.by_types.empty() ? nullptr : &rule.text;
+    return rule.is_truth_test() || !rule.by_types.empty() ? nullptr : &rule.text;
 }
 
 bool has_operand(const node_expression &node, operand mark) {
@@ -124,7 +124,7 @@ outcome complete(rendering &r, operator_use use, node_expression *node, void *da
             second = result;
     }
     const operator_rule &rule = use.rule();
-    if (rule.has_truths)
+    if (rule.is_truth_test())
         return write_by_truth(rule, node, all);
     const std::int32_t left = type_of(node->expression_1, first);
     const std::int32_t right = type_of(node->expression_2, second);

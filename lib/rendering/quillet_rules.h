@@ -61,7 +61,6 @@ struct operator_rule {
     text_template text = {};
     std::int32_t refusal = 0; // it is refused, with the dialect's reason
     bool needs_all = true;    // an absent operand is a failure
-    bool has_truths = false;  // it is a truth test
 
     // Of a truth test: by the value that is asked for, of TRUE, FALSE and UNKNOW; none for others.
     std::array<text_template, 3> by_truth = {};
@@ -73,6 +72,8 @@ struct operator_rule {
 
     // Of the default rules alone: the type of the result.
     int (*type)(int left, int right) = nullptr;
+
+    constexpr bool is_truth_test() const { return by_truth[0].count > 0; }
 };
 
 // The arguments that a function's text takes: none, the last one as $1, all of them as $1, or the
@@ -124,7 +125,6 @@ constexpr operator_rule by_types(std::span<const typed_text> texts) { return {.b
 constexpr operator_rule by_truth(std::string_view of_true, std::string_view of_false,
                                  std::string_view of_unknown) {
     return {
-        .has_truths = true,
         .by_truth = {text_template(of_true), text_template(of_false), text_template(of_unknown)}};
 }
 
