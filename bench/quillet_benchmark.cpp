@@ -64,7 +64,7 @@ void scan(const std::string &statement) {
         case TOKEN_STRING:
         case TOKEN_INTEGER:
         case TOKEN_FLOAT:
-        case TOKEN_CURRENT_DATETIME: _quillet_tree_give(yy_quillet_lval.v_string); break;
+        case TOKEN_CURRENT_DATETIME: std::free(yy_quillet_lval.v_string); break;
         default: break;
         }
     _quillet_parse_data_free(quillet_query);

@@ -1,15 +1,23 @@
 # Runs bison and fails unless the grammar has exactly the conflicts that it explains: a change of the
 # counts is a change of the language.
 #
-#   cmake -DBISON=... -DGRAMMAR=... -DOUTPUT=... -DHEADER=... -DSHIFT_REDUCE=n -DREDUCE_REDUCE=n
-#         -P RunBison.cmake
+#   cmake -DBISON=... -DGRAMMAR=... -DOUTPUT=... -DPREFIX=... -DSHIFT_REDUCE=n -DREDUCE_REDUCE=n
+#         [-DHEADER=...] [-DLOCATION_TYPE=...] -P RunBison.cmake
 
 # Its messages are read below, whatever language the user's are in.
 set(ENV{LC_ALL} C)
 set(ENV{LANGUAGE} "")
 
+set(options --output=${OUTPUT} -Dapi.prefix={${PREFIX}})
+if(HEADER)
+    list(APPEND options --defines=${HEADER})
+endif()
+if(LOCATION_TYPE)
+    list(APPEND options --locations -Dapi.location.type={${LOCATION_TYPE}})
+endif()
+
 execute_process(
-    COMMAND ${BISON} -Wall -Wno-counterexamples --output=${OUTPUT} --defines=${HEADER} ${GRAMMAR}
+    COMMAND ${BISON} -Wall -Wno-counterexamples ${options} ${GRAMMAR}
     RESULT_VARIABLE result
     ERROR_VARIABLE messages)
 

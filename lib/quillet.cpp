@@ -4,7 +4,6 @@
 #include <iterator>
 #include <memory>
 #include <new>
-#include <optional>
 #include <utility>
 
 #include "quillet_builder.h"
@@ -14,12 +13,12 @@
 #include "quillet_letter_case.h"
 #include "quillet_mysql_builder.h"
 #include "quillet_mysql_rendering.h"
+#include "quillet_parse_tree.h"
 #include "quillet_parser.h"
 #include "quillet_postgresql_builder.h"
 #include "quillet_rendering.h"
 #include "quillet_scanner.h"
 #include "quillet_text_buffer.h"
-#include "quillet_tree_memory.h"
 #include "quillet_tree_view_builder.h"
 #include "quillet_type_view_builder.h"
 #include "quillet_type_view_dialect.h"
@@ -68,14 +67,6 @@ builder *own_builder(const quillet_builder_info &info) {
     return nullptr;
 }
 
-// Renders the tree in root and frees it.
-build_result *render_root(builder *renderer) {
-    build_result *result = renderer ? quillet_call_build_main(renderer, root, nullptr) : nullptr;
-    quillet_node_main_free(root);
-    root = nullptr;
-    return result;
-}
-
 } // namespace
 
 // The dialects of that table, the default one first.
@@ -106,19 +97,32 @@ int quillet_get_builder_id(const char *name) {
 
 namespace {
 
+// Renders the tree in root, which goes afterwards.
+build_result *render_root(builder *renderer) {
+    return renderer ? quillet_call_build_main(renderer, root, nullptr) : nullptr;
+}
+
+// The same with a host's builder, which may change the tree and parse others.
+build_result *render_root_of_host(const quillet_builder_info &info) {
+    const std::unique_ptr<builder, builder_freed> of_host(info.constructor());
+    node_main *tree = root;
+    build_result *result = render_root(of_host.get());
+    quillet_node_main_free(tree);
+    return result;
+}
+
 // Translates, and returns the code.
 int translate(const char *input, char **output, const quillet_builder_info &info) {
+    tree_memory &memory = classic_tree_memory;
     builder *ours = own_builder(info);
-    std::optional<tree_arena> arena;
-    if (ours)
-        arena.emplace();
-    if (quillet_parse(input) == QUILLET_PARSE_SYNTAX_ERROR)
+    const tree_under_way tree(memory, ours ? tree_owner::library : tree_owner::host);
+    if (parse_query(input, memory) == QUILLET_PARSE_SYNTAX_ERROR)
         return QUILLET_INVALID_QUERY;
-    if (!root)
-        return QUILLET_CAN_NOT_TRANSLATE; // too deep or too large for the parser
-
-    const std::unique_ptr<builder, builder_freed> of_host(ours ? nullptr : info.constructor());
-    const std::unique_ptr<build_result, freed> result(render_root(ours ? ours : of_host.get()));
+    const bool is_there = root && (ours || memory.keep()); // not too deep or too large
+    const std::unique_ptr<build_result, freed> result(!is_there ? nullptr
+                                                      : ours    ? render_root(ours)
+                                                                : render_root_of_host(info));
+    root = nullptr;
     if (!result)
         return QUILLET_CAN_NOT_TRANSLATE;
     std::unique_ptr<char, freed> text(result->query);
@@ -142,7 +146,7 @@ int quillet_translate_query(const char *input, char **output, int builder_id) {
 }
 
 void quillet_release_memory(void) {
-    release_arena_memory();
+    classic_tree_memory.release();
     release_rendering_memory();
     _quillet_scanner_release();
     _quillet_date_format_scanner_reset();

@@ -7,10 +7,11 @@
 #include "quillet_builder_info.h"
 #include "quillet_date_format_scanner.h"
 #include "quillet_mysql_errors.h"
+#include "quillet_parse_tree.h"
 #include "quillet_parser.h"
+#include "quillet_parser_values.h"
 #include "quillet_rendering.h"
 #include "quillet_scanner.h"
-#include "quillet_tree_memory.h"
 
 // Owned by quillet.cpp: the registry, the last translation, our own builders.
 quillet_builder_info *quillet_builders[4] = {};
@@ -21,13 +22,18 @@ int32_t last_builder_id = 0;
 builder *quillet::kept_builders[4] = {};
 
 // Owned by the parser: the tree of the last parse; during a parse its text; how deep it is in
-// comments, which the next parse goes on with; what was read on; the memory of both.
+// comments, which the next parse goes on with; the value of the last token; the memory of the tree,
+// and what is kept of it; what the scanner has read on for.
 node_main *root = nullptr;
 parse_data *quillet_query = nullptr;
 int quillet_comment_count = 0;
-quillet_scanner_reading _quillet_scanner_reading = {};
-quillet_blocks _quillet_scanner_blocks = {};
-quillet_blocks _quillet_parser_blocks = {};
+quillet_value yy_quillet_lval = {};
+constinit quillet::tree_memory quillet::classic_tree_memory;
+constinit quillet_scan _quillet_scan = [] {
+    quillet_scan scan{};
+    scan.tree = &quillet::classic_tree_memory;
+    return scan;
+}();
 
 // Owned by the date-format parser: its pattern and text during a parse, the scanner's memory.
 parse_data *quillet_date_format = nullptr;
@@ -36,11 +42,6 @@ quillet_blocks _quillet_date_format_blocks = {};
 
 // Owned by the builder mysql: the reason of its last refusal. Nothing resets it.
 int32_t mysql_error_code = 0;
-
-// Owned by the tree's memory: the arena of the translation under way, and what is kept of it;
-// without one, the blocks of the tree that is being parsed.
-quillet_tree_memory _quillet_tree_memory = {};
-constinit quillet::tree_record quillet::recorded_blocks;
 
 // Owned by the renderings: the scratch that one leaves to the next, and the bound of the stack.
 constinit quillet::rendering_memory quillet::kept_rendering_memory;

@@ -7,8 +7,10 @@
  *   right-hand side into it; make() copies a record into the tree's memory, so an action reads as
  *   the record that it builds. An empty optional clause is NULL.
  * - A token's text is a copy that the scanner hands over; it ends up in a node. A node that only
- *   carries a word to its parent (identifiers that name types, join types) is freed there.
- * - Every semantic type has a destructor, so a failed parse frees what it had built.
+ *   carries a word to its parent (identifiers that name types, join types) is given back there.
+ * - What a failed parse had built goes with the tree's memory.
+ * - Two parsers are made of this grammar: one that is fast, and one with bison's locations, which
+ *   keeps the place of each node in the statement. "here" is where an action's node goes.
  * - Lists are left-recursive: the head of the chain holds the last item.
  * - The value of the kind k is v_k. The union of the values is plain pointers: bison lets the stacks
  *   grow from 200 to 10,000 entries in C++ only if they can be copied as bytes.
@@ -32,46 +34,46 @@
  */
 
 %code requires {
-#include "quillet_tree_node.h"
+#include "quillet_parser_values.h"
 
-/* The value of a token with a text, or of a nonterminal: the node that it makes. */
-union quillet_value {
-    char *v_string;
-#define NODE(kind) node_##kind *v_##kind;
-#include "quillet_nodes.def"
-};
-}
-
-%code provides {
-#ifdef __cplusplus
-extern "C" {
-#endif
-int yy_quillet_lex(void);
-int yy_quillet_error(const char *message);
-#ifdef __cplusplus
-}
-#endif
-}
-
-%code top {
-/* Gives the parser C linkage ahead of bison's own declaration. */
-extern "C" int yy_quillet_parse(void);
+struct quillet_parsing;
 }
 
 %code {
 #include "quillet_limits.h"
 #include "quillet_parser_actions.h"
-#include "quillet_scanner.h"
 
-#define YYMALLOC(size) _quillet_blocks_take(&_quillet_parser_blocks, nullptr, size)
-#define YYFREE(block) _quillet_blocks_give(&_quillet_parser_blocks, block)
+#define YYMALLOC(size) _quillet_blocks_take(&parse->stack, nullptr, size)
+#define YYFREE(block) _quillet_blocks_give(&parse->stack, block)
 #define YYINITDEPTH QUILLET_PARSER_STACK_INITIAL
 #define YYMAXDEPTH QUILLET_PARSER_STACK_MAXIMUM
 
 using namespace quillet;
+
+#ifdef QUILLET_PLACES
+
+#define here (placed_tree{parse->memory, yyloc})
+#define YYLLOC_DEFAULT(whole, parts, count) (whole) = place_of_all(&(parts)[0], count)
+
+static int yylex(quillet_value *value, place *where, quillet_parsing *parse) {
+    return parse->next(value, where);
 }
 
-%define api.prefix {yy_quillet_}
+static void yyerror(const place *, quillet_parsing *parse, const char *message) { parse->fail(message); }
+
+#else
+
+#define here (parse->memory)
+
+static int yylex(quillet_value *value, quillet_parsing *parse) { return parse->next(value); }
+
+static void yyerror(quillet_parsing *parse, const char *message) { parse->fail(message); }
+
+#endif
+}
+
+%define api.pure full
+%param {struct quillet_parsing *parse}
 %define api.token.prefix {TOKEN_}
 
 %define api.value.type {union quillet_value}
@@ -214,8 +216,6 @@ using namespace quillet;
 %type <v_from_for_argument> from_for_argument <v_trim_argument> trim_argument
 %type <v_expressions_list> expressions_list <v_agregate_expression> agregate_expression
 
-%destructor { release($$); } <*>
-
 %start input
 
 %%
@@ -223,14 +223,14 @@ using namespace quillet;
 /* Statements. */
 
 input
-    : statement { root = $1; }
+    : statement { parse->root = $1; }
     ;
 
 statement
-    : insert opt_semicolon { $$ = make(node_main{.insert = $1}); }
-    | select opt_semicolon { $$ = make(node_main{.select = $1}); }
-    | update opt_semicolon { $$ = make(node_main{.update = $1}); }
-    | delete opt_semicolon { $$ = make(node_main{.delete_ = $1}); }
+    : insert opt_semicolon { $$ = make(here, node_main{.insert = $1}); }
+    | select opt_semicolon { $$ = make(here, node_main{.select = $1}); }
+    | update opt_semicolon { $$ = make(here, node_main{.update = $1}); }
+    | delete opt_semicolon { $$ = make(here, node_main{.delete_ = $1}); }
     ;
 
 opt_semicolon
@@ -239,389 +239,389 @@ opt_semicolon
     ;
 
 insert
-    : INSERT INTO table VALUES values_list { $$ = make(node_insert{.table = $3, .values_list = $5}); }
+    : INSERT INTO table VALUES values_list { $$ = make(here, node_insert{.table = $3, .values_list = $5}); }
     | INSERT INTO table '(' identifier_list ')' VALUES values_list
-        { $$ = make(node_insert{.table = $3, .identifier_list = $5, .values_list = $8}); }
+        { $$ = make(here, node_insert{.table = $3, .identifier_list = $5, .values_list = $8}); }
     ;
 
 update
-    : UPDATE table set_clausule where_clausule { $$ = make(node_update{.table = $2, .set_clausule = $3, .where_clausule = $4}); }
+    : UPDATE table set_clausule where_clausule { $$ = make(here, node_update{.table = $2, .set_clausule = $3, .where_clausule = $4}); }
     ;
 
 delete
-    : DELETE FROM table where_clausule { $$ = make(node_delete{.table = $3, .where_clausule = $4}); }
+    : DELETE FROM table where_clausule { $$ = make(here, node_delete{.table = $3, .where_clausule = $4}); }
     ;
 
 set_clausule
-    : SET set_list { $$ = make(node_set_clausule{.set_list = $2}); }
+    : SET set_list { $$ = make(here, node_set_clausule{.set_list = $2}); }
     ;
 
 set_list
-    : set_list ',' set_item { $$ = make(node_set_list{.set_list = $1, .set_item = $3}); }
-    | set_item              { $$ = make(node_set_list{.set_item = $1}); }
+    : set_list ',' set_item { $$ = make(here, node_set_list{.set_list = $1, .set_item = $3}); }
+    | set_item              { $$ = make(here, node_set_list{.set_item = $1}); }
     ;
 
 set_item
-    : column_reference '=' expression { $$ = make(node_set_item{.column_reference = $1, .expression = $3}); }
+    : column_reference '=' expression { $$ = make(here, node_set_item{.column_reference = $1, .expression = $3}); }
     ;
 
 values_list
-    : DEFAULT VALUES                     { $$ = make(node_values_list{}); }
-    | '(' expression_or_default_list ')' { $$ = make(node_values_list{.expression_or_default_list = $2}); }
+    : DEFAULT VALUES                     { $$ = make(here, node_values_list{}); }
+    | '(' expression_or_default_list ')' { $$ = make(here, node_values_list{.expression_or_default_list = $2}); }
     ;
 
 expression_or_default_list
     : expression_or_default_list ',' expression_or_default_item
-        { $$ = make(node_expression_or_default_list{.expression_or_default_list = $1, .expression_or_default_item = $3}); }
-    | expression_or_default_item { $$ = make(node_expression_or_default_list{.expression_or_default_item = $1}); }
+        { $$ = make(here, node_expression_or_default_list{.expression_or_default_list = $1, .expression_or_default_item = $3}); }
+    | expression_or_default_item { $$ = make(here, node_expression_or_default_list{.expression_or_default_item = $1}); }
     ;
 
 expression_or_default_item
-    : expression { $$ = make(node_expression_or_default_item{.expression = $1}); }
-    | DEFAULT    { $$ = make(node_expression_or_default_item{}); }
+    : expression { $$ = make(here, node_expression_or_default_item{.expression = $1}); }
+    | DEFAULT    { $$ = make(here, node_expression_or_default_item{}); }
     ;
 
 select
     : SELECT distinct_select_list FROM tables where_clausule group_by_clausule order_by_clausule limit_clausule
         {
-          $$ = make(node_select{.distinct_select_list = $2, .tables = $4, .where_clausule = $5,
+          $$ = make(here, node_select{.distinct_select_list = $2, .tables = $4, .where_clausule = $5,
                                 .group_by_clausule = $6, .order_by_clausule = $7, .limit_clausule = $8});
         }
-    | SELECT distinct_select_list { $$ = make(node_select{.distinct_select_list = $2}); }
+    | SELECT distinct_select_list { $$ = make(here, node_select{.distinct_select_list = $2}); }
     ;
 
 /* The FROM part. */
 
 tables
-    : tables_list join_list { $$ = make(node_tables{.tables_list = $1, .join_list = $2}); }
+    : tables_list join_list { $$ = make(here, node_tables{.tables_list = $1, .join_list = $2}); }
     ;
 
 tables_list
-    : table                 { $$ = make(node_tables_list{.table = $1}); }
-    | tables_list ',' table { $$ = make(node_tables_list{.table = $3, .tables_list = $1}); }
+    : table                 { $$ = make(here, node_tables_list{.table = $1}); }
+    | tables_list ',' table { $$ = make(here, node_tables_list{.table = $3, .tables_list = $1}); }
     ;
 
 join_list
     : %empty         { $$ = nullptr; }
-    | join_list join { $$ = make(node_join_list{.join = $2, .join_list = $1}); }
-    | join           { $$ = make(node_join_list{.join = $1}); }
+    | join_list join { $$ = make(here, node_join_list{.join = $2, .join_list = $1}); }
+    | join           { $$ = make(here, node_join_list{.join = $1}); }
     ;
 
 join
-    : join_type JOIN table join_expression { $$ = make(node_join{.type = taken($1), .table = $3, .join_expression = $4}); }
-    | NATURAL join_type JOIN table         { $$ = make(node_join{.type = taken($2), .natural = 1, .table = $4}); }
-    | CROSS JOIN table                     { $$ = make(node_join{.type = QUILLET_JOIN_CROSS, .table = $3}); }
+    : join_type JOIN table join_expression { $$ = make(here, node_join{.type = taken(here, $1), .table = $3, .join_expression = $4}); }
+    | NATURAL join_type JOIN table         { $$ = make(here, node_join{.type = taken(here, $2), .natural = 1, .table = $4}); }
+    | CROSS JOIN table                     { $$ = make(here, node_join{.type = QUILLET_JOIN_CROSS, .table = $3}); }
     ;
 
 join_type
-    : %empty      { $$ = make(node_join_type{.type = QUILLET_JOIN_INNER}); }
-    | INNER       { $$ = make(node_join_type{.type = QUILLET_JOIN_INNER}); }
-    | OUTER       { $$ = make(node_join_type{.type = QUILLET_JOIN_LEFT}); }
-    | LEFT        { $$ = make(node_join_type{.type = QUILLET_JOIN_LEFT}); }
-    | RIGHT       { $$ = make(node_join_type{.type = QUILLET_JOIN_RIGHT}); }
-    | FULL        { $$ = make(node_join_type{.type = QUILLET_JOIN_FULL}); }
-    | LEFT OUTER  { $$ = make(node_join_type{.type = QUILLET_JOIN_LEFT}); }
-    | RIGHT OUTER { $$ = make(node_join_type{.type = QUILLET_JOIN_RIGHT}); }
-    | FULL OUTER  { $$ = make(node_join_type{.type = QUILLET_JOIN_FULL}); }
+    : %empty      { $$ = make(here, node_join_type{.type = QUILLET_JOIN_INNER}); }
+    | INNER       { $$ = make(here, node_join_type{.type = QUILLET_JOIN_INNER}); }
+    | OUTER       { $$ = make(here, node_join_type{.type = QUILLET_JOIN_LEFT}); }
+    | LEFT        { $$ = make(here, node_join_type{.type = QUILLET_JOIN_LEFT}); }
+    | RIGHT       { $$ = make(here, node_join_type{.type = QUILLET_JOIN_RIGHT}); }
+    | FULL        { $$ = make(here, node_join_type{.type = QUILLET_JOIN_FULL}); }
+    | LEFT OUTER  { $$ = make(here, node_join_type{.type = QUILLET_JOIN_LEFT}); }
+    | RIGHT OUTER { $$ = make(here, node_join_type{.type = QUILLET_JOIN_RIGHT}); }
+    | FULL OUTER  { $$ = make(here, node_join_type{.type = QUILLET_JOIN_FULL}); }
     ;
 
 join_expression
     : %empty                        { $$ = nullptr; }
-    | ON expression                 { $$ = make(node_join_expression{.expression = $2}); }
-    | USING '(' identifier_list ')' { $$ = make(node_join_expression{.identifier_list = $3}); }
+    | ON expression                 { $$ = make(here, node_join_expression{.expression = $2}); }
+    | USING '(' identifier_list ')' { $$ = make(here, node_join_expression{.identifier_list = $3}); }
     ;
 
 table
-    : identifier               { $$ = make(node_table{.identifier = $1}); }
-    | identifier identifier    { $$ = make(node_table{.identifier = $1, .alias = $2}); }
-    | identifier AS identifier { $$ = make(node_table{.identifier = $1, .alias = $3}); }
+    : identifier               { $$ = make(here, node_table{.identifier = $1}); }
+    | identifier identifier    { $$ = make(here, node_table{.identifier = $1, .alias = $2}); }
+    | identifier AS identifier { $$ = make(here, node_table{.identifier = $1, .alias = $3}); }
     ;
 
 /* The later clauses. */
 
 where_clausule
     : %empty           { $$ = nullptr; }
-    | WHERE expression { $$ = make(node_where_clausule{.expression = $2}); }
+    | WHERE expression { $$ = make(here, node_where_clausule{.expression = $2}); }
     ;
 
 group_by_clausule
     : %empty { $$ = nullptr; }
     | GROUP BY column_reference_list having_clausule
-        { $$ = make(node_group_by_clausule{.column_reference_list = $3, .having_clausule = $4}); }
+        { $$ = make(here, node_group_by_clausule{.column_reference_list = $3, .having_clausule = $4}); }
     ;
 
 having_clausule
     : %empty            { $$ = nullptr; }
-    | HAVING expression { $$ = make(node_having_clausule{.expression = $2}); }
+    | HAVING expression { $$ = make(here, node_having_clausule{.expression = $2}); }
     ;
 
 order_by_clausule
     : %empty                 { $$ = nullptr; }
-    | ORDER BY order_by_list { $$ = make(node_order_by_clausule{.order_by_list = $3}); }
+    | ORDER BY order_by_list { $$ = make(here, node_order_by_clausule{.order_by_list = $3}); }
     ;
 
 order_by_list
-    : order_by_list ',' order_by_item { $$ = make(node_order_by_list{.order_by_list = $1, .order_by_item = $3}); }
-    | order_by_item                   { $$ = make(node_order_by_list{.order_by_item = $1}); }
+    : order_by_list ',' order_by_item { $$ = make(here, node_order_by_list{.order_by_list = $1, .order_by_item = $3}); }
+    | order_by_item                   { $$ = make(here, node_order_by_list{.order_by_item = $1}); }
     ;
 
 order_by_item
-    : expression      { $$ = make(node_order_by_item{.type = QUILLET_SORT_ASCENDING, .expression = $1}); }
-    | expression ASC  { $$ = make(node_order_by_item{.type = QUILLET_SORT_ASCENDING, .expression = $1}); }
-    | expression DESC { $$ = make(node_order_by_item{.type = QUILLET_SORT_DESCENDING, .expression = $1}); }
+    : expression      { $$ = make(here, node_order_by_item{.type = QUILLET_SORT_ASCENDING, .expression = $1}); }
+    | expression ASC  { $$ = make(here, node_order_by_item{.type = QUILLET_SORT_ASCENDING, .expression = $1}); }
+    | expression DESC { $$ = make(here, node_order_by_item{.type = QUILLET_SORT_DESCENDING, .expression = $1}); }
     ;
 
 limit_clausule
     : %empty                                   { $$ = nullptr; }
     | LIMIT ALL                                { $$ = nullptr; }
-    | LIMIT const_integer                      { $$ = make(node_limit_clausule{.const_integer_1 = $2}); }
-    | LIMIT const_integer OFFSET const_integer { $$ = make(node_limit_clausule{.const_integer_1 = $2, .const_integer_2 = $4}); }
-    | OFFSET const_integer                     { $$ = make(node_limit_clausule{.const_integer_2 = $2}); }
-    | LIMIT ALL OFFSET const_integer           { $$ = make(node_limit_clausule{.const_integer_2 = $4}); }
+    | LIMIT const_integer                      { $$ = make(here, node_limit_clausule{.const_integer_1 = $2}); }
+    | LIMIT const_integer OFFSET const_integer { $$ = make(here, node_limit_clausule{.const_integer_1 = $2, .const_integer_2 = $4}); }
+    | OFFSET const_integer                     { $$ = make(here, node_limit_clausule{.const_integer_2 = $2}); }
+    | LIMIT ALL OFFSET const_integer           { $$ = make(here, node_limit_clausule{.const_integer_2 = $4}); }
     ;
 
 /* The select list. */
 
 distinct_select_list
-    : select_list          { $$ = make(node_distinct_select_list{.select_list = $1}); }
-    | ALL select_list      { $$ = make(node_distinct_select_list{.select_list = $2}); }
-    | distinct select_list { $$ = make(node_distinct_select_list{.distinct = $1, .select_list = $2}); }
+    : select_list          { $$ = make(here, node_distinct_select_list{.select_list = $1}); }
+    | ALL select_list      { $$ = make(here, node_distinct_select_list{.select_list = $2}); }
+    | distinct select_list { $$ = make(here, node_distinct_select_list{.distinct = $1, .select_list = $2}); }
     ;
 
 distinct
-    : DISTINCT                        { $$ = make(node_distinct{}); }
-    | DISTINCT ON '(' select_list ')' { $$ = make(node_distinct{.select_list = $4}); }
+    : DISTINCT                        { $$ = make(here, node_distinct{}); }
+    | DISTINCT ON '(' select_list ')' { $$ = make(here, node_distinct{.select_list = $4}); }
     ;
 
 select_list
-    : select_item                 { $$ = make(node_select_list{.select_item = $1}); }
-    | select_list ',' select_item { $$ = make(node_select_list{.select_list = $1, .select_item = $3}); }
+    : select_item                 { $$ = make(here, node_select_list{.select_item = $1}); }
+    | select_list ',' select_item { $$ = make(here, node_select_list{.select_list = $1, .select_item = $3}); }
     ;
 
 select_item
-    : '*'                      { $$ = make(node_select_item{}); }
-    | identifier '.' '*'       { $$ = make(node_select_item{.identifier = $1}); }
-    | expression               { $$ = make(node_select_item{.expression = $1}); }
-    | expression AS identifier { $$ = make(node_select_item{.expression = $1, .identifier = $3}); }
+    : '*'                      { $$ = make(here, node_select_item{}); }
+    | identifier '.' '*'       { $$ = make(here, node_select_item{.identifier = $1}); }
+    | expression               { $$ = make(here, node_select_item{.expression = $1}); }
+    | expression AS identifier { $$ = make(here, node_select_item{.expression = $1, .identifier = $3}); }
     ;
 
 /* Expressions. The order of the alternatives is part of the language. */
 
 expression
-    : column_reference                                      { $$ = make(node_expression{.column_reference = $1}); }
-    | function_call                                         { $$ = make(node_expression{.function_call = $1}); }
-    | const_generic                                         { $$ = make(node_expression{.const_generic = $1}); }
-    | '(' expression ')'                                    { $$ = make(node_expression{.expression_1 = $2}); }
-    | expression '*' expression                             { $$ = apply("operator_multiplicity", $1, $3); }
-    | expression '/' expression                             { $$ = apply("operator_divide", $1, $3); }
-    | expression '%' expression                             { $$ = apply("operator_modulo", $1, $3); }
-    | expression '+' expression                             { $$ = apply("operator_addition", $1, $3); }
-    | expression '-' expression                             { $$ = apply("operator_substraction", $1, $3); }
-    | expression '<' expression                             { $$ = apply("operator_lesser", $1, $3); }
-    | expression '>' expression                             { $$ = apply("operator_greater", $1, $3); }
-    | expression LESS_EQUAL expression                      { $$ = apply("operator_not_greater", $1, $3); }
-    | expression GREATER_EQUAL expression                   { $$ = apply("operator_not_lesser", $1, $3); }
-    | expression NOT_EQUAL expression                       { $$ = apply("operator_not_equal", $1, $3); }
-    | expression '=' expression                             { $$ = apply("operator_equal", $1, $3); }
-    | expression '^' expression                             { $$ = apply("operator_power", $1, $3); }
-    | '@' expression %prec PREFIX_ABS                       { $$ = apply("operator_abs", $2); }
-    | '-' expression %prec PREFIX_MINUS                     { $$ = apply("operator_uminus", $2); }
-    | expression AND expression                             { $$ = apply("operator_and", $1, $3); }
-    | expression OR expression                              { $$ = apply("operator_or", $1, $3); }
-    | expression SHIFT_LEFT_OP expression                   { $$ = apply("operator_shift_left", $1, $3); }
-    | expression SHIFT_RIGHT_OP expression                  { $$ = apply("operator_shift_right", $1, $3); }
-    | SQUARE_ROOT_OP expression %prec PREFIX_SQUARE_ROOT    { $$ = apply("operator_square_root", $2); }
-    | expression CONCAT_OP expression                       { $$ = apply("operator_concatenate", $1, $3); }
-    | CUBIC_ROOT_OP expression %prec PREFIX_CUBIC_ROOT      { $$ = apply("operator_cubic_root", $2); }
-    | NOT expression %prec PREFIX_NOT                       { $$ = apply("operator_not", $2); }
-    | expression BETWEEN expression AND expression          { $$ = apply("operator_between", $1, $3, $5); }
-    | expression NOT BETWEEN expression AND expression      { $$ = apply("operator_not_between", $1, $4, $6); }
-    | expression ISNULL                                     { $$ = apply("operator_is_null", $1); }
-    | expression IS NULL                                    { $$ = apply("operator_is_null", $1); }
-    | expression NOTNULL                                    { $$ = apply("operator_is_not_null", $1); }
-    | expression IS NOT NULL                                { $$ = apply("operator_is_not_null", $1); }
-    | expression IS DISTINCT FROM expression                { $$ = apply("operator_distinct_from", $1, $5); }
-    | expression IS const_boolean                           { $$ = truth_test("operator_is", $1, $3); }
-    | expression IS NOT const_boolean                       { $$ = truth_test("operator_is_not", $1, $4); }
-    | expression LIKE expression                            { $$ = match("operator_like", $1, $3); }
-    | expression LIKE expression escape                     { $$ = match("operator_like", $1, $3, $4); }
-    | expression NOT LIKE expression                        { $$ = match("operator_not_like", $1, $4); }
-    | expression NOT LIKE expression escape                 { $$ = match("operator_not_like", $1, $4, $5); }
-    | expression NOT_LIKE_OP expression escape              { $$ = match("operator_not_like", $1, $3, $4); }
-    | expression ILIKE expression                           { $$ = match("operator_ilike", $1, $3); }
-    | expression ILIKE expression escape                    { $$ = match("operator_ilike", $1, $3, $4); }
-    | expression NOT ILIKE expression                       { $$ = match("operator_not_ilike", $1, $4); }
-    | expression NOT ILIKE expression escape                { $$ = match("operator_not_ilike", $1, $4, $5); }
-    | expression NOT_ILIKE_OP expression                    { $$ = match("operator_not_ilike", $1, $3); }
-    | expression NOT_ILIKE_OP expression escape             { $$ = match("operator_not_ilike", $1, $3, $4); }
-    | expression SIMILAR TO expression                      { $$ = match("operator_similar_to", $1, $4); }
-    | expression SIMILAR TO expression escape               { $$ = match("operator_similar_to", $1, $4, $5); }
-    | expression NOT SIMILAR TO expression                  { $$ = match("operator_not_similar_to", $1, $5); }
-    | expression NOT SIMILAR TO expression escape           { $$ = match("operator_not_similar_to", $1, $5, $6); }
-    | expression '~' expression                             { $$ = apply("operator_regex", $1, $3); }
-    | expression IREGEX_OP expression                       { $$ = apply("operator_iregex", $1, $3); }
-    | expression NOT_REGEX_OP expression                    { $$ = apply("operator_not_regex", $1, $3); }
-    | expression NOT_IREGEX_OP expression                   { $$ = apply("operator_not_iregex", $1, $3); }
-    | PREFIX_FACTORIAL_OP expression %prec PREFIX_FACTORIAL { $$ = apply("operator_factorial", $2); }
-    | expression '!'                                        { $$ = apply("operator_factorial", $1); }
-    | expression '&' expression                             { $$ = apply("operator_bitwise_and", $1, $3); }
-    | expression '|' expression                             { $$ = apply("operator_bitwise_or", $1, $3); }
-    | expression '#' expression                             { $$ = apply("operator_bitwise_xor", $1, $3); }
-    | '~' expression %prec PREFIX_BITWISE_NOT               { $$ = apply("operator_bitwise_not", $2); }
-    | cast_expression                                       { $$ = make(node_expression{.cast_expression = $1}); }
-    | overlaps_expression OVERLAPS overlaps_expression      { $$ = overlaps($1, $3); }
-    | case_expression                                       { $$ = make(node_expression{.case_expression = $1}); }
+    : column_reference                                      { $$ = make(here, node_expression{.column_reference = $1}); }
+    | function_call                                         { $$ = make(here, node_expression{.function_call = $1}); }
+    | const_generic                                         { $$ = make(here, node_expression{.const_generic = $1}); }
+    | '(' expression ')'                                    { $$ = make(here, node_expression{.expression_1 = $2}); }
+    | expression '*' expression                             { $$ = apply(here, "operator_multiplicity", $1, $3); }
+    | expression '/' expression                             { $$ = apply(here, "operator_divide", $1, $3); }
+    | expression '%' expression                             { $$ = apply(here, "operator_modulo", $1, $3); }
+    | expression '+' expression                             { $$ = apply(here, "operator_addition", $1, $3); }
+    | expression '-' expression                             { $$ = apply(here, "operator_substraction", $1, $3); }
+    | expression '<' expression                             { $$ = apply(here, "operator_lesser", $1, $3); }
+    | expression '>' expression                             { $$ = apply(here, "operator_greater", $1, $3); }
+    | expression LESS_EQUAL expression                      { $$ = apply(here, "operator_not_greater", $1, $3); }
+    | expression GREATER_EQUAL expression                   { $$ = apply(here, "operator_not_lesser", $1, $3); }
+    | expression NOT_EQUAL expression                       { $$ = apply(here, "operator_not_equal", $1, $3); }
+    | expression '=' expression                             { $$ = apply(here, "operator_equal", $1, $3); }
+    | expression '^' expression                             { $$ = apply(here, "operator_power", $1, $3); }
+    | '@' expression %prec PREFIX_ABS                       { $$ = apply(here, "operator_abs", $2); }
+    | '-' expression %prec PREFIX_MINUS                     { $$ = apply(here, "operator_uminus", $2); }
+    | expression AND expression                             { $$ = apply(here, "operator_and", $1, $3); }
+    | expression OR expression                              { $$ = apply(here, "operator_or", $1, $3); }
+    | expression SHIFT_LEFT_OP expression                   { $$ = apply(here, "operator_shift_left", $1, $3); }
+    | expression SHIFT_RIGHT_OP expression                  { $$ = apply(here, "operator_shift_right", $1, $3); }
+    | SQUARE_ROOT_OP expression %prec PREFIX_SQUARE_ROOT    { $$ = apply(here, "operator_square_root", $2); }
+    | expression CONCAT_OP expression                       { $$ = apply(here, "operator_concatenate", $1, $3); }
+    | CUBIC_ROOT_OP expression %prec PREFIX_CUBIC_ROOT      { $$ = apply(here, "operator_cubic_root", $2); }
+    | NOT expression %prec PREFIX_NOT                       { $$ = apply(here, "operator_not", $2); }
+    | expression BETWEEN expression AND expression          { $$ = apply(here, "operator_between", $1, $3, $5); }
+    | expression NOT BETWEEN expression AND expression      { $$ = apply(here, "operator_not_between", $1, $4, $6); }
+    | expression ISNULL                                     { $$ = apply(here, "operator_is_null", $1); }
+    | expression IS NULL                                    { $$ = apply(here, "operator_is_null", $1); }
+    | expression NOTNULL                                    { $$ = apply(here, "operator_is_not_null", $1); }
+    | expression IS NOT NULL                                { $$ = apply(here, "operator_is_not_null", $1); }
+    | expression IS DISTINCT FROM expression                { $$ = apply(here, "operator_distinct_from", $1, $5); }
+    | expression IS const_boolean                           { $$ = truth_test(here, "operator_is", $1, $3); }
+    | expression IS NOT const_boolean                       { $$ = truth_test(here, "operator_is_not", $1, $4); }
+    | expression LIKE expression                            { $$ = match(here, "operator_like", $1, $3); }
+    | expression LIKE expression escape                     { $$ = match(here, "operator_like", $1, $3, $4); }
+    | expression NOT LIKE expression                        { $$ = match(here, "operator_not_like", $1, $4); }
+    | expression NOT LIKE expression escape                 { $$ = match(here, "operator_not_like", $1, $4, $5); }
+    | expression NOT_LIKE_OP expression escape              { $$ = match(here, "operator_not_like", $1, $3, $4); }
+    | expression ILIKE expression                           { $$ = match(here, "operator_ilike", $1, $3); }
+    | expression ILIKE expression escape                    { $$ = match(here, "operator_ilike", $1, $3, $4); }
+    | expression NOT ILIKE expression                       { $$ = match(here, "operator_not_ilike", $1, $4); }
+    | expression NOT ILIKE expression escape                { $$ = match(here, "operator_not_ilike", $1, $4, $5); }
+    | expression NOT_ILIKE_OP expression                    { $$ = match(here, "operator_not_ilike", $1, $3); }
+    | expression NOT_ILIKE_OP expression escape             { $$ = match(here, "operator_not_ilike", $1, $3, $4); }
+    | expression SIMILAR TO expression                      { $$ = match(here, "operator_similar_to", $1, $4); }
+    | expression SIMILAR TO expression escape               { $$ = match(here, "operator_similar_to", $1, $4, $5); }
+    | expression NOT SIMILAR TO expression                  { $$ = match(here, "operator_not_similar_to", $1, $5); }
+    | expression NOT SIMILAR TO expression escape           { $$ = match(here, "operator_not_similar_to", $1, $5, $6); }
+    | expression '~' expression                             { $$ = apply(here, "operator_regex", $1, $3); }
+    | expression IREGEX_OP expression                       { $$ = apply(here, "operator_iregex", $1, $3); }
+    | expression NOT_REGEX_OP expression                    { $$ = apply(here, "operator_not_regex", $1, $3); }
+    | expression NOT_IREGEX_OP expression                   { $$ = apply(here, "operator_not_iregex", $1, $3); }
+    | PREFIX_FACTORIAL_OP expression %prec PREFIX_FACTORIAL { $$ = apply(here, "operator_factorial", $2); }
+    | expression '!'                                        { $$ = apply(here, "operator_factorial", $1); }
+    | expression '&' expression                             { $$ = apply(here, "operator_bitwise_and", $1, $3); }
+    | expression '|' expression                             { $$ = apply(here, "operator_bitwise_or", $1, $3); }
+    | expression '#' expression                             { $$ = apply(here, "operator_bitwise_xor", $1, $3); }
+    | '~' expression %prec PREFIX_BITWISE_NOT               { $$ = apply(here, "operator_bitwise_not", $2); }
+    | cast_expression                                       { $$ = make(here, node_expression{.cast_expression = $1}); }
+    | overlaps_expression OVERLAPS overlaps_expression      { $$ = overlaps(here, $1, $3); }
+    | case_expression                                       { $$ = make(here, node_expression{.case_expression = $1}); }
     ;
 
 case_expression
     : CASE expression when_list else_clausule END
-        { $$ = make(node_case_expression{.expression = $2, .when_list = $3, .else_clausule = $4}); }
-    | CASE when_list else_clausule END { $$ = make(node_case_expression{.when_list = $2, .else_clausule = $3}); }
+        { $$ = make(here, node_case_expression{.expression = $2, .when_list = $3, .else_clausule = $4}); }
+    | CASE when_list else_clausule END { $$ = make(here, node_case_expression{.when_list = $2, .else_clausule = $3}); }
     ;
 
 when_list
-    : when_list when_item { $$ = make(node_when_list{.when_list = $1, .when_item = $2}); }
-    | when_item           { $$ = make(node_when_list{.when_item = $1}); }
+    : when_list when_item { $$ = make(here, node_when_list{.when_list = $1, .when_item = $2}); }
+    | when_item           { $$ = make(here, node_when_list{.when_item = $1}); }
     ;
 
 when_item
-    : WHEN expression THEN expression { $$ = make(node_when_item{.expression_1 = $2, .expression_2 = $4}); }
+    : WHEN expression THEN expression { $$ = make(here, node_when_item{.expression_1 = $2, .expression_2 = $4}); }
     ;
 
 else_clausule
     : %empty          { $$ = nullptr; }
-    | ELSE expression { $$ = make(node_else_clausule{.expression = $2}); }
+    | ELSE expression { $$ = make(here, node_else_clausule{.expression = $2}); }
     ;
 
 overlaps_expression
-    : '(' expression ',' expression ')' { $$ = make(node_overlaps_expression{.expression_1 = $2, .expression_2 = $4}); }
+    : '(' expression ',' expression ')' { $$ = make(here, node_overlaps_expression{.expression_1 = $2, .expression_2 = $4}); }
     ;
 
 const_string
-    : STRING { $$ = make(node_const_string{.string = $1}); }
+    : STRING { $$ = make(here, node_const_string{.string = $1}); }
     ;
 
 const_integer
-    : INTEGER { $$ = make(node_const_integer{.integer = $1}); }
+    : INTEGER { $$ = make(here, node_const_integer{.integer = $1}); }
     ;
 
 const_floating
-    : FLOAT { $$ = make(node_const_floating{.floating = $1}); }
+    : FLOAT { $$ = make(here, node_const_floating{.floating = $1}); }
     ;
 
 escape
-    : ESCAPE STRING { $$ = make(node_escape{.string = $2}); }
+    : ESCAPE STRING { $$ = make(here, node_escape{.string = $2}); }
     ;
 
 const_boolean
-    : TRUE   { $$ = make(node_const_boolean{.value = QUILLET_TRUTH_TRUE}); }
-    | FALSE  { $$ = make(node_const_boolean{.value = QUILLET_TRUTH_FALSE}); }
-    | UNKNOW { $$ = make(node_const_boolean{.value = QUILLET_TRUTH_UNKNOW}); }
+    : TRUE   { $$ = make(here, node_const_boolean{.value = QUILLET_TRUTH_TRUE}); }
+    | FALSE  { $$ = make(here, node_const_boolean{.value = QUILLET_TRUTH_FALSE}); }
+    | UNKNOW { $$ = make(here, node_const_boolean{.value = QUILLET_TRUTH_UNKNOW}); }
     ;
 
 cast_expression
-    : CAST '(' expression AS identifier ')' { $$ = make(node_cast_expression{.expression = $3, .type = type_named($5)}); }
-    | expression TYPECAST_OP identifier     { $$ = make(node_cast_expression{.expression = $1, .type = type_named($3)}); }
+    : CAST '(' expression AS identifier ')' { $$ = make(here, node_cast_expression{.expression = $3, .type = type_named(here, $5)}); }
+    | expression TYPECAST_OP identifier     { $$ = make(here, node_cast_expression{.expression = $1, .type = type_named(here, $3)}); }
     ;
 
 /* Function calls. */
 
 function_call
-    : identifier '(' ')'                     { $$ = make(node_function_call{.function_name = $1}); }
-    | CURRENT_DATETIME                       { $$ = make(node_function_call{.function_name = name($1)}); }
-    | CURRENT_DATETIME '(' ')'               { $$ = make(node_function_call{.function_name = name($1)}); }
+    : identifier '(' ')'                     { $$ = make(here, node_function_call{.function_name = $1}); }
+    | CURRENT_DATETIME                       { $$ = make(here, node_function_call{.function_name = name(here, $1)}); }
+    | CURRENT_DATETIME '(' ')'               { $$ = make(here, node_function_call{.function_name = name(here, $1)}); }
     | CURRENT_DATETIME '(' expressions_list ')'
-        { $$ = make(node_function_call{.function_name = name($1), .expressions_list = $3}); }
-    | identifier '(' agregate_expression ')' { $$ = make(node_function_call{.function_name = $1, .agregate_expression = $3}); }
-    | identifier '(' expressions_list ')'    { $$ = make(node_function_call{.function_name = $1, .expressions_list = $3}); }
-    | identifier '(' using_argument ')'      { $$ = make(node_function_call{.function_name = $1, .using_argument = $3}); }
+        { $$ = make(here, node_function_call{.function_name = name(here, $1), .expressions_list = $3}); }
+    | identifier '(' agregate_expression ')' { $$ = make(here, node_function_call{.function_name = $1, .agregate_expression = $3}); }
+    | identifier '(' expressions_list ')'    { $$ = make(here, node_function_call{.function_name = $1, .expressions_list = $3}); }
+    | identifier '(' using_argument ')'      { $$ = make(here, node_function_call{.function_name = $1, .using_argument = $3}); }
     | identifier '(' placing_from_for_argument ')'
-        { $$ = make(node_function_call{.function_name = $1, .placing_from_for_argument = $3}); }
-    | identifier '(' from_for_argument ')'   { $$ = make(node_function_call{.function_name = $1, .from_for_argument = $3}); }
-    | identifier '(' in_argument ')'         { $$ = make(node_function_call{.function_name = $1, .in_argument = $3}); }
-    | identifier '(' trim_argument ')'       { $$ = make(node_function_call{.function_name = $1, .trim_argument = $3}); }
+        { $$ = make(here, node_function_call{.function_name = $1, .placing_from_for_argument = $3}); }
+    | identifier '(' from_for_argument ')'   { $$ = make(here, node_function_call{.function_name = $1, .from_for_argument = $3}); }
+    | identifier '(' in_argument ')'         { $$ = make(here, node_function_call{.function_name = $1, .in_argument = $3}); }
+    | identifier '(' trim_argument ')'       { $$ = make(here, node_function_call{.function_name = $1, .trim_argument = $3}); }
     ;
 
 using_argument
-    : expression USING identifier { $$ = make(node_using_argument{.expression = $1, .identifier = $3}); }
+    : expression USING identifier { $$ = make(here, node_using_argument{.expression = $1, .identifier = $3}); }
     ;
 
 placing_from_for_argument
-    : expression PLACING expression FROM expression                { $$ = placing($1, $3, $5, nullptr); }
-    | expression PLACING expression FROM expression FOR expression { $$ = placing($1, $3, $5, $7); }
-    | expression PLACING expression FOR expression                 { $$ = placing($1, $3, nullptr, $5); }
-    | expression PLACING expression                                { $$ = placing($1, $3, nullptr, nullptr); }
+    : expression PLACING expression FROM expression                { $$ = placing(here, $1, $3, $5, nullptr); }
+    | expression PLACING expression FROM expression FOR expression { $$ = placing(here, $1, $3, $5, $7); }
+    | expression PLACING expression FOR expression                 { $$ = placing(here, $1, $3, nullptr, $5); }
+    | expression PLACING expression                                { $$ = placing(here, $1, $3, nullptr, nullptr); }
     ;
 
 from_for_argument
-    : expression FROM expression { $$ = make(node_from_for_argument{.expression_1 = $1, .expression_2 = $3}); }
+    : expression FROM expression { $$ = make(here, node_from_for_argument{.expression_1 = $1, .expression_2 = $3}); }
     | expression FROM expression FOR expression
-        { $$ = make(node_from_for_argument{.expression_1 = $1, .expression_2 = $3, .expression_3 = $5}); }
+        { $$ = make(here, node_from_for_argument{.expression_1 = $1, .expression_2 = $3, .expression_3 = $5}); }
     ;
 
 in_argument
-    : expression IN expression { $$ = make(node_in_argument{.expression_1 = $1, .expression_2 = $3}); }
+    : expression IN expression { $$ = make(here, node_in_argument{.expression_1 = $1, .expression_2 = $3}); }
     ;
 
 trim_argument
-    : LEADING expression FROM expression  { $$ = trim(QUILLET_TRIM_LEADING, $2, $4); }
-    | TRAILING expression FROM expression { $$ = trim(QUILLET_TRIM_TRAILING, $2, $4); }
-    | BOTH expression FROM expression     { $$ = trim(QUILLET_TRIM_BOTH, $2, $4); }
-    | LEADING FROM expression             { $$ = trim(QUILLET_TRIM_LEADING, nullptr, $3); }
-    | TRAILING FROM expression            { $$ = trim(QUILLET_TRIM_TRAILING, nullptr, $3); }
-    | BOTH FROM expression                { $$ = trim(QUILLET_TRIM_BOTH, nullptr, $3); }
-    | FROM expression                     { $$ = trim(QUILLET_TRIM_BOTH, nullptr, $2); }
+    : LEADING expression FROM expression  { $$ = trim(here, QUILLET_TRIM_LEADING, $2, $4); }
+    | TRAILING expression FROM expression { $$ = trim(here, QUILLET_TRIM_TRAILING, $2, $4); }
+    | BOTH expression FROM expression     { $$ = trim(here, QUILLET_TRIM_BOTH, $2, $4); }
+    | LEADING FROM expression             { $$ = trim(here, QUILLET_TRIM_LEADING, nullptr, $3); }
+    | TRAILING FROM expression            { $$ = trim(here, QUILLET_TRIM_TRAILING, nullptr, $3); }
+    | BOTH FROM expression                { $$ = trim(here, QUILLET_TRIM_BOTH, nullptr, $3); }
+    | FROM expression                     { $$ = trim(here, QUILLET_TRIM_BOTH, nullptr, $2); }
     ;
 
 agregate_expression
-    : DISTINCT expression { $$ = make(node_agregate_expression{.type = QUILLET_AGREGATE_DISTINCT, .expression = $2}); }
-    | ALL expression      { $$ = make(node_agregate_expression{.type = QUILLET_AGREGATE_ALL, .expression = $2}); }
-    | '*'                 { $$ = make(node_agregate_expression{.type = QUILLET_AGREGATE_STAR}); }
+    : DISTINCT expression { $$ = make(here, node_agregate_expression{.type = QUILLET_AGREGATE_DISTINCT, .expression = $2}); }
+    | ALL expression      { $$ = make(here, node_agregate_expression{.type = QUILLET_AGREGATE_ALL, .expression = $2}); }
+    | '*'                 { $$ = make(here, node_agregate_expression{.type = QUILLET_AGREGATE_STAR}); }
     ;
 
 expressions_list
-    : expression                      { $$ = make(node_expressions_list{.expression = $1}); }
-    | expressions_list ',' expression { $$ = make(node_expressions_list{.expressions_list = $1, .expression = $3}); }
+    : expression                      { $$ = make(here, node_expressions_list{.expression = $1}); }
+    | expressions_list ',' expression { $$ = make(here, node_expressions_list{.expressions_list = $1, .expression = $3}); }
     ;
 
 /* Literals, columns and names. */
 
 const_generic
-    : const_boolean  { $$ = make(node_const_generic{.const_boolean = $1}); }
-    | const_string   { $$ = make(node_const_generic{.const_string = $1}); }
-    | const_integer  { $$ = make(node_const_generic{.const_integer = $1}); }
-    | const_floating { $$ = make(node_const_generic{.const_floating = $1}); }
-    | NULL           { $$ = make(node_const_generic{}); }
+    : const_boolean  { $$ = make(here, node_const_generic{.const_boolean = $1}); }
+    | const_string   { $$ = make(here, node_const_generic{.const_string = $1}); }
+    | const_integer  { $$ = make(here, node_const_generic{.const_integer = $1}); }
+    | const_floating { $$ = make(here, node_const_generic{.const_floating = $1}); }
+    | NULL           { $$ = make(here, node_const_generic{}); }
     | identifier const_string at_time_zone
-        { $$ = make(node_const_generic{.const_string = $2, .type = type_named($1), .at_time_zone = $3}); }
+        { $$ = make(here, node_const_generic{.const_string = $2, .type = type_named(here, $1), .at_time_zone = $3}); }
     | identifier identifier const_string at_time_zone
-        { $$ = make(node_const_generic{.const_string = $3, .type = type_named($1, $2), .at_time_zone = $4}); }
+        { $$ = make(here, node_const_generic{.const_string = $3, .type = type_named(here, $1, $2), .at_time_zone = $4}); }
     ;
 
 at_time_zone
     : %empty                                     { $$ = nullptr; }
-    | AT identifier ZONE const_string            { $$ = make(node_at_time_zone{.type = zone_type($2), .const_string = $4}); }
-    | AT identifier ZONE identifier const_string { $$ = make(node_at_time_zone{.type = zone_type($2, $4), .const_string = $5}); }
+    | AT identifier ZONE const_string            { $$ = make(here, node_at_time_zone{.type = zone_type(here, $2), .const_string = $4}); }
+    | AT identifier ZONE identifier const_string { $$ = make(here, node_at_time_zone{.type = zone_type(here, $2, $4), .const_string = $5}); }
     ;
 
 column_reference_list
     : column_reference_list ',' column_reference
-        { $$ = make(node_column_reference_list{.column_reference_list = $1, .column_reference = $3}); }
-    | column_reference { $$ = make(node_column_reference_list{.column_reference = $1}); }
+        { $$ = make(here, node_column_reference_list{.column_reference_list = $1, .column_reference = $3}); }
+    | column_reference { $$ = make(here, node_column_reference_list{.column_reference = $1}); }
     ;
 
 column_reference
-    : identifier                { $$ = make(node_column_reference{.column_name = $1}); }
-    | identifier '.' identifier { $$ = make(node_column_reference{.column_name = $3, .correlation_name = $1}); }
+    : identifier                { $$ = make(here, node_column_reference{.column_name = $1}); }
+    | identifier '.' identifier { $$ = make(here, node_column_reference{.column_name = $3, .correlation_name = $1}); }
     ;
 
 identifier_list
-    : identifier_list ',' identifier { $$ = make(node_identifier_list{.identifier_list = $1, .identifier = $3}); }
-    | identifier                     { $$ = make(node_identifier_list{.identifier = $1}); }
+    : identifier_list ',' identifier { $$ = make(here, node_identifier_list{.identifier_list = $1, .identifier = $3}); }
+    | identifier                     { $$ = make(here, node_identifier_list{.identifier = $1}); }
     ;
 
 identifier
-    : IDENTIFIER { $$ = name($1); }
+    : IDENTIFIER { $$ = name(here, $1); }
     ;
 
 %%

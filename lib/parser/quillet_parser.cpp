@@ -8,21 +8,38 @@
 #include "quillet_limits.h"
 #include "quillet_parse_tree.h"
 #include "quillet_parser_tools.h"
-#include "quillet_scanner.h"
-#include "quillet_tree_memory.h"
+#include "quillet_parsing.h"
 
-extern "C" int yy_quillet_parse(void);
+using namespace quillet;
 
-using quillet::recorded_tree;
+namespace {
+
+constexpr const char *bisons_overflow = "memory exhausted";
+
+} // namespace
 
 // Reports a syntax error or an overflow of the parser's stacks, for which bison has words of its
-// own. The end that the scanner puts to a tree that is too large is no error of the statement.
+// own.
 extern "C" int yy_quillet_error(const char *message) {
-    if (_quillet_tree_is_too_large())
-        return 0;
-    const bool overflow = std::strcmp(message, "memory exhausted") == 0;
+    const bool overflow = std::strcmp(message, bisons_overflow) == 0;
     std::printf("Error: %s\n", overflow ? "parser stack overflow" : message);
     return 0;
+}
+
+void quillet_parsing::fail(const char *message) {
+    if (!scanner) {
+        yy_quillet_error(message);
+        return;
+    }
+    is_too_deep = std::strcmp(message, bisons_overflow) == 0;
+}
+
+// Parses what the scanner of the process reads, into the memory that this has.
+int yy_quillet_parse(void) {
+    quillet_parsing parsing{static_cast<tree_memory &>(*_quillet_scan.tree), _quillet_query_lex};
+    const int result = yy_quillet_tree_parse(&parsing);
+    root = parsing.root;
+    return result;
 }
 
 namespace {
@@ -30,23 +47,27 @@ namespace {
 // The query while it is parsed.
 class query_being_parsed {
 public:
-    explicit query_being_parsed(const char *query) {
+    query_being_parsed(const char *query, tree_memory &memory) {
         quillet_query = _quillet_parse_data_create(query);
+        former_tree_ = std::exchange(_quillet_scan.tree, &memory);
     }
     ~query_being_parsed() {
+        _quillet_scan.tree = former_tree_;
         _quillet_parse_data_free(quillet_query);
         quillet_query = nullptr;
     }
     query_being_parsed(const query_being_parsed &) = delete;
     query_being_parsed &operator=(const query_being_parsed &) = delete;
+
+private:
+    quillet_tree_memory *former_tree_;
 };
 
-int parse(const char *query) {
+int parse(const char *query, tree_memory &memory) {
     try {
-        const query_being_parsed parsed(query);
+        const query_being_parsed parsed(query, memory);
         return yy_quillet_parse();
     } catch (const std::bad_alloc &) { // what was read is lost with it
-        _quillet_blocks_give_all(&_quillet_parser_blocks);
         _quillet_scanner_reset();
         return QUILLET_PARSE_STACK_OVERFLOW;
     }
@@ -54,22 +75,26 @@ int parse(const char *query) {
 
 } // namespace
 
-int quillet_parse(const char *query) {
+int quillet::parse_query(const char *query, tree_memory &memory) {
     root = nullptr;
     if (std::strlen(query) > QUILLET_QUERY_SIZE_MAXIMUM)
         return QUILLET_PARSE_STACK_OVERFLOW;
-    recorded_tree tree;
-    int result = parse(query);
-    if (_quillet_tree_is_too_large())
-        result = QUILLET_PARSE_STACK_OVERFLOW;
-    if (result == QUILLET_PARSE_ACCEPTED && !tree.keep())
-        result = QUILLET_PARSE_STACK_OVERFLOW;
+    const int result = parse(query, memory);
     // A statement may be complete, and in root, before what follows it turns out to be wrong.
     if (result != QUILLET_PARSE_ACCEPTED) {
         _quillet_scanner_forget_look();
         root = nullptr;
     }
     return result;
+}
+
+int quillet_parse(const char *query) {
+    const tree_under_way tree(classic_tree_memory, tree_owner::host);
+    const int result = parse_query(query, classic_tree_memory);
+    if (result != QUILLET_PARSE_ACCEPTED || classic_tree_memory.keep())
+        return result;
+    root = nullptr;
+    return QUILLET_PARSE_STACK_OVERFLOW;
 }
 
 node_main *quillet_take_root(void) { return std::exchange(root, nullptr); }

@@ -9,7 +9,7 @@
 #include <new>
 #include <string_view>
 
-#include "quillet_parse_tree.h"
+#include "quillet_parsing.h"
 #include "quillet_strings_tools.h"
 #include "quillet_tree_memory.h"
 #include "quillet_tree_node.h"
@@ -17,23 +17,35 @@
 
 namespace quillet {
 
-// release(value) frees a semantic value of any type.
-inline void release(char *text) { _quillet_tree_give(text); }
-#define NODE(kind)                                                                                 \
-    inline void release(node_##kind *node) { quillet_node_##kind##_free(node); }
-#include "quillet_nodes.def"
+// A tree whose nodes have their places before them, where place_before finds them.
+struct placed_tree {
+    tree_memory &memory;
+    place where;
+};
 
-// make(node_<kind>{...}) returns a new node with these fields.
-#define NODE(kind)                                                                                 \
-    inline node_##kind *make(const node_##kind &fields) {                                          \
-        return new (_quillet_tree_take(sizeof(node_##kind))) node_##kind(fields);                  \
-    }
-#include "quillet_nodes.def"
+inline void *take_node(tree_memory &memory, std::size_t size) {
+    return _quillet_tree_take(&memory, size);
+}
 
-inline node_identifier *name(char *text) { return make(node_identifier{.name = text}); }
+inline void *take_node(const placed_tree &tree, std::size_t size) {
+    auto *room = static_cast<char *>(_quillet_tree_take(&tree.memory, sizeof(place) + size));
+    return new (room) place(tree.where) + 1;
+}
 
-inline char *text_copy(std::string_view text) {
-    auto *copy = static_cast<char *>(_quillet_tree_take(text.size() + 1));
+inline tree_memory &memory_of(tree_memory &memory) { return memory; }
+inline tree_memory &memory_of(const placed_tree &tree) { return tree.memory; }
+
+// make(here, node_<kind>{...}) returns a new node with these fields.
+template <class Node> Node *make(auto &&here, const Node &fields) {
+    return new (take_node(here, sizeof(Node))) Node(fields);
+}
+
+inline node_identifier *name(auto &&here, char *text) {
+    return make(here, node_identifier{.name = text});
+}
+
+inline char *text_copy(auto &&here, std::string_view text) {
+    auto *copy = static_cast<char *>(_quillet_tree_take(&memory_of(here), text.size() + 1));
     std::memcpy(copy, text.data(), text.size());
     copy[text.size()] = '\0';
     return copy;
@@ -41,84 +53,96 @@ inline char *text_copy(std::string_view text) {
 
 // Operator applications.
 
-inline node_expression *apply(std::string_view name, node_expression *first,
+inline node_expression *apply(auto &&here, std::string_view name, node_expression *first,
                               node_expression *second = nullptr, node_expression *third = nullptr) {
-    return make(node_expression{.operator_ = text_copy(name),
-                                .expression_1 = first,
-                                .expression_2 = second,
-                                .expression_3 = third});
+    return make(here, node_expression{.operator_ = text_copy(here, name),
+                                      .expression_1 = first,
+                                      .expression_2 = second,
+                                      .expression_3 = third});
 }
 
-inline node_expression *truth_test(std::string_view name, node_expression *tested,
+inline node_expression *truth_test(auto &&here, std::string_view name, node_expression *tested,
                                    node_const_boolean *value) {
-    return make(node_expression{
-        .operator_ = text_copy(name), .expression_1 = tested, .const_boolean = value});
+    return make(here, node_expression{.operator_ = text_copy(here, name),
+                                      .expression_1 = tested,
+                                      .const_boolean = value});
 }
 
-inline node_expression *match(std::string_view name, node_expression *matched,
+inline node_expression *match(auto &&here, std::string_view name, node_expression *matched,
                               node_expression *pattern, node_escape *escape = nullptr) {
-    return make(node_expression{.operator_ = text_copy(name),
-                                .expression_1 = matched,
-                                .expression_2 = pattern,
-                                .escape = escape});
+    return make(here, node_expression{.operator_ = text_copy(here, name),
+                                      .expression_1 = matched,
+                                      .expression_2 = pattern,
+                                      .escape = escape});
 }
 
-inline node_expression *overlaps(node_overlaps_expression *first,
+inline node_expression *overlaps(auto &&here, node_overlaps_expression *first,
                                  node_overlaps_expression *second) {
-    return make(node_expression{.operator_ = text_copy("operator_overlaps"),
-                                .overlaps_expression_1 = first,
-                                .overlaps_expression_2 = second});
+    return make(here, node_expression{.operator_ = text_copy(here, "operator_overlaps"),
+                                      .overlaps_expression_1 = first,
+                                      .overlaps_expression_2 = second});
 }
 
 // Argument forms.
 
-inline node_placing_from_for_argument *placing(node_expression *string, node_expression *inserted,
-                                               node_expression *start, node_expression *length) {
-    return make(node_placing_from_for_argument{.expression_1 = string,
-                                               .expression_2 = inserted,
-                                               .expression_3 = start,
-                                               .expression_4 = length});
+inline node_placing_from_for_argument *placing(auto &&here, node_expression *string,
+                                               node_expression *inserted, node_expression *start,
+                                               node_expression *length) {
+    return make(here, node_placing_from_for_argument{.expression_1 = string,
+                                                     .expression_2 = inserted,
+                                                     .expression_3 = start,
+                                                     .expression_4 = length});
 }
 
-inline node_trim_argument *trim(int mode, node_expression *characters, node_expression *string) {
+inline node_trim_argument *trim(auto &&here, int mode, node_expression *characters,
+                                node_expression *string) {
     return make(
-        node_trim_argument{.mode = mode, .expression_1 = characters, .expression_2 = string});
+        here, node_trim_argument{.mode = mode, .expression_1 = characters, .expression_2 = string});
 }
 
-// Nodes that only carry something to their parent: the code is returned, the node freed.
+// Nodes that only carry something to their parent: the code is returned, the node given back.
 
-inline int taken(node_join_type *join) {
+// The places of a tree are not given back before it.
+template <class Node> void give(tree_memory &memory, Node *node) {
+    if constexpr (requires { node->name; })
+        memory.give(node->name);
+    memory.give(node);
+}
+
+template <class Node> void give(const placed_tree &, Node *) {}
+
+inline int taken(auto &&here, node_join_type *join) {
     const int type = join->type;
-    release(join);
+    give(here, join);
     return type;
 }
 
-inline int type_named(node_identifier *word) {
+inline int type_named(auto &&here, node_identifier *word) {
     const int type = quillet_string_to_type(word->name);
-    release(word);
+    give(here, word);
     return type;
 }
 
-inline int type_named(node_identifier *first, node_identifier *second) {
+inline int type_named(auto &&here, node_identifier *first, node_identifier *second) {
     char *words = quillet_sconcat(first->name, second->name);
     if (!words)
         throw std::bad_alloc();
     const int type = quillet_string_to_type(words);
     std::free(words);
-    release(first);
-    release(second);
+    give(here, first);
+    give(here, second);
     return type;
 }
 
 // AT zone ZONE, and AT zone ZONE form: AT TIME ZONE and AT TIME ZONE INTERVAL are known.
 
-inline int zone_type(node_identifier *zone) {
-    return type_named(zone) == QUILLET_TYPE_TIME ? QUILLET_ZONE_TIME : QUILLET_ZONE_UNKNOWN;
+inline int zone_type(auto &&here, node_identifier *zone) {
+    return type_named(here, zone) == QUILLET_TYPE_TIME ? QUILLET_ZONE_TIME : QUILLET_ZONE_UNKNOWN;
 }
 
-inline int zone_type(node_identifier *zone, node_identifier *form) {
-    const bool is_time = type_named(zone) == QUILLET_TYPE_TIME;
-    const bool is_interval = type_named(form) == QUILLET_TYPE_INTERVAL;
+inline int zone_type(auto &&here, node_identifier *zone, node_identifier *form) {
+    const bool is_time = type_named(here, zone) == QUILLET_TYPE_TIME;
+    const bool is_interval = type_named(here, form) == QUILLET_TYPE_INTERVAL;
     return is_time && is_interval ? QUILLET_ZONE_TIME_INTERVAL : QUILLET_ZONE_UNKNOWN;
 }
 

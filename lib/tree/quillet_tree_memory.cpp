@@ -2,12 +2,10 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <new>
 
 #include <sys/mman.h>
 
 #include "quillet_blocks.h"
-#include "quillet_limits.h"
 
 #if defined(__has_feature)
 #if __has_feature(address_sanitizer)
@@ -19,24 +17,26 @@
 #define QUILLET_WITHOUT_ARENA // every block is seen to come and go
 #endif
 
-namespace {
+void *_quillet_tree_take_more(quillet_tree_memory *memory, size_t size) {
+    return static_cast<quillet::tree_memory *>(memory)->take_more(size);
+}
 
-using chunk = quillet_tree_memory::quillet_arena_chunk;
+namespace quillet {
 
-std::size_t usual_size(std::size_t index) {
+std::size_t tree_memory::usual_size(std::size_t index) {
     std::size_t size = QUILLET_ARENA_CHUNK_SIZE;
     while (index-- > 0 && size < QUILLET_ARENA_CHUNK_SIZE_MAXIMUM)
         size *= 2;
     return size;
 }
 
-void free_chunk(chunk &freed) {
+void tree_memory::free_chunk(chunk &freed) {
     std::free(freed.begin);
     freed = {};
 }
 
 // A large chunk asks for large pages, which spare it most of the page faults.
-chunk new_chunk(std::size_t size) {
+tree_memory::chunk tree_memory::new_chunk(std::size_t size) {
     constexpr std::size_t large_page = 2UL * 1024 * 1024;
     if (size < large_page)
         return {static_cast<char *>(_quillet_take(size)), size};
@@ -50,104 +50,110 @@ chunk new_chunk(std::size_t size) {
     return {static_cast<char *>(begin), size};
 }
 
-// Begins the next chunk, which has room for at least so much.
-void begin_chunk(std::size_t room) {
-    quillet_tree_memory &memory = _quillet_tree_memory;
-    chunk &next = memory.chunks[memory.used_chunks];
-    if (next.size < room) {
-        free_chunk(next);
-        next = new_chunk(std::max(room, usual_size(memory.used_chunks)));
-    }
-    memory.made_chunks = std::max(memory.made_chunks, ++memory.used_chunks);
-    memory.used_size += next.size;
-    memory.next = next.begin;
-    memory.end = next.begin + next.size;
-}
-
-void *take_block(std::size_t size) {
-    quillet::tree_record &record = quillet::recorded_blocks;
-    if (!record.is_on)
-        return _quillet_take(size);
-    record.taken.push_back(nullptr); // which may find no memory itself
-    return record.taken.back() = _quillet_take(size);
-}
-
-void free_all(std::vector<void *> &blocks) {
+void tree_memory::free_all(std::vector<void *> &blocks) {
     for (void *block : blocks)
         std::free(block);
     blocks.clear();
 }
 
-} // namespace
-
-// What is recorded is freed later, so that none of it comes twice.
-void _quillet_tree_give_block(void *block) {
-    quillet::tree_record &record = quillet::recorded_blocks;
-    if (!record.is_on) {
-        std::free(block);
+void tree_memory::begin(tree_owner owner, std::size_t limit) {
+    left_ = limit;
+#ifndef QUILLET_WITHOUT_ARENA
+    if (owner == tree_owner::library) {
+        state_ = state::arena;
         return;
     }
-    try {
-        record.given.push_back(block);
-    } catch (const std::bad_alloc &) {
-        record.is_incomplete = true;
-    }
-}
-
-void *_quillet_tree_take_more(size_t size) {
-    if (!_quillet_tree_memory.has_arena)
-        return take_block(size);
-    begin_chunk(size);
-    return _quillet_tree_take(size);
-}
-
-int _quillet_tree_is_too_large(void) {
-    return _quillet_tree_memory.used_size > QUILLET_TREE_SIZE_MAXIMUM;
-}
-
-namespace quillet {
-
-tree_arena::tree_arena() {
-#ifndef QUILLET_WITHOUT_ARENA
-    begin_chunk(1);
-    _quillet_tree_memory.has_arena = 1;
 #endif
+    static_cast<void>(owner);
+    state_ = state::blocks;
+    is_incomplete_ = false;
 }
 
-// What a large statement took is kept for the next one, and freed then if that is a small one.
-tree_arena::~tree_arena() {
-    quillet_tree_memory &memory = _quillet_tree_memory;
-    memory.has_arena = 0;
-    memory.next = memory.end = nullptr;
-    const std::size_t kept = std::clamp<std::size_t>(memory.used_chunks, QUILLET_ARENA_KEPT_CHUNKS,
-                                                     QUILLET_ARENA_KEPT_CHUNKS_MAXIMUM);
-    for (; memory.made_chunks > kept; --memory.made_chunks)
-        free_chunk(memory.chunks[memory.made_chunks - 1]);
-    for (std::size_t i = 0; i < memory.used_chunks; ++i)
-        if (memory.chunks[i].size > usual_size(i))
-            free_chunk(memory.chunks[i]);
-    memory.used_chunks = memory.used_size = 0;
+void tree_memory::end() {
+    free_all(taken_);
+    given_.clear();
+    end_arena();
+    state_ = state::no_tree;
 }
 
-recorded_tree::recorded_tree() { record_.is_on = !_quillet_tree_memory.has_arena; }
-
-recorded_tree::~recorded_tree() {
-    free_all(record_.taken);
-    record_ = {};
-}
-
-bool recorded_tree::keep() {
-    if (record_.is_incomplete)
+bool tree_memory::keep() {
+    if (is_incomplete_)
         return false;
-    free_all(record_.given);
-    record_.taken.clear();
+    free_all(given_);
+    taken_.clear();
     return true;
 }
 
-void release_arena_memory() {
-    quillet_tree_memory &memory = _quillet_tree_memory;
-    for (; !memory.has_arena && memory.made_chunks > 0; --memory.made_chunks)
-        free_chunk(memory.chunks[memory.made_chunks - 1]);
+// What is given is freed later, so that none of it comes twice.
+void tree_memory::give(void *room) {
+    if (state_ == state::no_tree)
+        std::free(room);
+    if (state_ != state::blocks)
+        return;
+    try {
+        given_.push_back(room);
+    } catch (const std::bad_alloc &) {
+        is_incomplete_ = true;
+    }
+}
+
+void tree_memory::release() {
+    for (; made_chunks_ > 0; --made_chunks_)
+        free_chunk(chunks_[made_chunks_ - 1]);
+    std::vector<void *>().swap(taken_);
+    std::vector<void *>().swap(given_);
+}
+
+void *tree_memory::take_more(std::size_t size) {
+    if (state_ == state::no_tree)
+        return _quillet_take(size);
+    if (state_ == state::blocks)
+        return take_block(size);
+    begin_chunk(size);
+    return _quillet_tree_take(this, size);
+}
+
+void tree_memory::take_from_limit(std::size_t size) {
+    if (size > left_)
+        throw tree_is_too_large();
+    left_ -= size;
+}
+
+void *tree_memory::take_block(std::size_t size) {
+    take_from_limit(size);
+    taken_.push_back(nullptr); // which may find no memory itself
+    return taken_.back() = _quillet_take(size);
+}
+
+// Begins the next chunk, which has room for at least so much. What stays free in the last one is
+// not counted, and no more of the new one is used than the limit allows.
+void tree_memory::begin_chunk(std::size_t room) {
+    left_ += static_cast<std::size_t>(free_end - free_begin);
+    free_begin = free_end = nullptr;
+    take_from_limit(room);
+    chunk &next = chunks_[used_chunks_];
+    if (next.size < room) {
+        free_chunk(next);
+        next = new_chunk(std::max(room, usual_size(used_chunks_)));
+    }
+    made_chunks_ = std::max(made_chunks_, ++used_chunks_);
+    const std::size_t more = std::min(next.size - room, left_);
+    left_ -= more;
+    free_begin = next.begin;
+    free_end = next.begin + room + more;
+}
+
+// What a large statement took is kept for the next one, and freed then if that is a small one.
+void tree_memory::end_arena() {
+    free_begin = free_end = nullptr;
+    const std::size_t kept = std::clamp<std::size_t>(used_chunks_, QUILLET_ARENA_KEPT_CHUNKS,
+                                                     QUILLET_ARENA_KEPT_CHUNKS_MAXIMUM);
+    for (; made_chunks_ > kept; --made_chunks_)
+        free_chunk(chunks_[made_chunks_ - 1]);
+    for (std::size_t i = 0; i < used_chunks_; ++i)
+        if (chunks_[i].size > usual_size(i))
+            free_chunk(chunks_[i]);
+    used_chunks_ = 0;
 }
 
 } // namespace quillet

@@ -1,12 +1,11 @@
 #include "quillet_tree_node.h"
 
 #include <cstddef>
-#include <cstring>
+#include <cstdlib>
 #include <memory_resource>
 #include <new>
 #include <vector>
 
-#include "quillet_tree_memory.h"
 #include "quillet_walk.h"
 
 namespace {
@@ -30,16 +29,16 @@ struct owned_node {
 #define CHILD(kind, type, field)                                                                   \
     if (own->field)                                                                                \
         left.down({own->field, free_##type});
-#define TEXT(kind, field) _quillet_tree_give(own->field);
+#define TEXT(kind, field) std::free(own->field);
 #define END(kind)                                                                                  \
-    _quillet_tree_give(own);                                                                       \
+    std::free(own);                                                                                \
     }
 #include "quillet_nodes.def"
 
 // Frees a tree. The last child comes first, so that the walk stays shallow in lists and chains,
 // which grow at their first field.
 void free_tree(owned_node tree) {
-    if (!tree.node || _quillet_tree_memory.has_arena)
+    if (!tree.node)
         return;
     constexpr std::size_t usual_depth = 128; // for which no memory is needed
     alignas(owned_node) std::byte usual_memory[usual_depth * sizeof(owned_node)];
@@ -57,21 +56,12 @@ void free_tree(owned_node tree) {
     }
 }
 
-// Returns a zeroed record, NULL without memory.
-void *create_record(std::size_t size) {
-    try {
-        return std::memset(_quillet_tree_take(size), 0, size);
-    } catch (const std::bad_alloc &) {
-        return nullptr;
-    }
-}
-
 } // namespace
 
 // quillet_node_<kind>_create and quillet_node_<kind>_free for every kind.
 #define NODE(kind)                                                                                 \
     node_##kind *quillet_node_##kind##_create(void) {                                              \
-        return static_cast<node_##kind *>(create_record(sizeof(node_##kind)));                     \
+        return static_cast<node_##kind *>(std::calloc(1, sizeof(node_##kind)));                    \
     }                                                                                              \
     void quillet_node_##kind##_free(node_##kind *node) { free_tree({node, free_##kind}); }
 #include "quillet_nodes.def"

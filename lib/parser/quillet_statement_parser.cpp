@@ -1,0 +1,83 @@
+#include "quillet_statement_parser.h"
+
+#include <cstring>
+#include <memory>
+
+namespace quillet {
+
+namespace {
+
+parse_fault fault_of(quillet_scan_fault fault) {
+    switch (fault) {
+    case QUILLET_SCAN_UNKNOWN_CHARACTER: return parse_fault::unknown_character;
+    case QUILLET_SCAN_UNENDED_STRING: return parse_fault::unended_string;
+    case QUILLET_SCAN_UNENDED_NAME: return parse_fault::unended_name;
+    case QUILLET_SCAN_EMPTY_NAME: return parse_fault::empty_name;
+    case QUILLET_SCAN_NO_FAULT: break;
+    }
+    return parse_fault::none;
+}
+
+place place_of(std::size_t begin, std::size_t end) {
+    return {static_cast<std::uint32_t>(begin), static_cast<std::uint32_t>(end)};
+}
+
+// A statement while it is parsed. What the generated code holds goes with it.
+class statement_parse {
+public:
+    statement_parse(std::string_view statement, tree_memory &memory)
+        : text_(new char[statement.size() + 2]), parsing_{memory, yy_quillet_in_place_lex} {
+        std::memcpy(text_.get(), statement.data(), statement.size());
+        text_[statement.size()] = text_[statement.size() + 1] = '\0';
+        scan_.tree = &memory;
+        scan_.text = text_.get();
+        scan_.size = std::strlen(text_.get());
+        scan_.is_cut = scan_.size < statement.size() ? 1 : 0;
+    }
+    ~statement_parse() { _quillet_in_place_end(&scan_); }
+    statement_parse(const statement_parse &) = delete;
+    statement_parse &operator=(const statement_parse &) = delete;
+
+    parse_result run(int (*parse)(quillet_parsing *)) {
+        parsing_.scanner = _quillet_in_place_begin(&scan_, text_.get(), scan_.size);
+        parse_result result;
+        if (parse(&parsing_) == 0)
+            result.root = parsing_.root;
+        else
+            explain(result);
+        result.has_open_comment = scan_.has_open_comment != 0;
+        if (result.has_open_comment)
+            result.open_comment = place_of(scan_.comment_begin, scan_.size);
+        return result;
+    }
+
+private:
+    void explain(parse_result &result) {
+        result.fault = fault_of(scan_.fault);
+        if (result.fault != parse_fault::none) {
+            result.where = place_of(scan_.fault_begin, scan_.fault_end);
+            return;
+        }
+        result.fault = parsing_.is_too_deep ? parse_fault::too_deep : parse_fault::syntax_error;
+        std::size_t begin = 0;
+        std::size_t end = 0;
+        _quillet_in_place_last_token(parsing_.scanner, &begin, &end);
+        result.where = place_of(begin, end);
+    }
+
+    std::unique_ptr<char[]> text_;
+    quillet_scan scan_ = {};
+    quillet_parsing parsing_;
+};
+
+} // namespace
+
+parse_result parse_statement(std::string_view statement, tree_memory &memory) {
+    return statement_parse(statement, memory).run(yy_quillet_tree_parse);
+}
+
+parse_result parse_statement_with_places(std::string_view statement, tree_memory &memory) {
+    return statement_parse(statement, memory).run(yy_quillet_places_parse);
+}
+
+} // namespace quillet
