@@ -4,74 +4,20 @@
 #include <iterator>
 #include <memory>
 #include <new>
-#include <utility>
 
 #include "quillet_builder.h"
 #include "quillet_date_format_scanner.h"
-#include "quillet_default_rendering.h"
 #include "quillet_globals.h"
 #include "quillet_letter_case.h"
-#include "quillet_mysql_builder.h"
-#include "quillet_mysql_rendering.h"
+#include "quillet_own_builders.h"
 #include "quillet_parse_tree.h"
 #include "quillet_parser.h"
-#include "quillet_postgresql_builder.h"
 #include "quillet_rendering.h"
 #include "quillet_scanner.h"
 #include "quillet_text_buffer.h"
-#include "quillet_tree_view_builder.h"
-#include "quillet_type_view_builder.h"
-#include "quillet_type_view_dialect.h"
+#include "quillet_translation_context.h"
 
 using namespace quillet;
-
-namespace {
-
-// The builders in the order of their ids. A dialect is what a builder renders with in place; the
-// tree view walks on its own.
-struct builder_row {
-    quillet_builder_info *(*get_info)(void);
-    builder *(*create)(void);
-    const dialect *own;
-};
-
-constexpr builder_row builder_table[] = {
-    {quillet_postgresql_builder_get_info, quillet_postgresql_builder_create, &postgresql_dialect},
-    {quillet_mysql_builder_get_info, quillet_mysql_builder_create, &mysql_dialect},
-    {quillet_tree_view_builder_get_info, quillet_tree_view_builder_create, nullptr},
-    {quillet_type_view_builder_get_info, quillet_type_view_builder_create, &type_view_dialect},
-};
-
-constexpr int builder_count = std::size(builder_table);
-
-static_assert(builder_count == std::size(quillet_builders));
-
-bool is_builder(int id) { return id >= 0 && id < builder_count; }
-
-struct builder_freed {
-    void operator()(builder *self) const { quillet_builder_free(self); }
-};
-
-// Returns the builder of one of this library's own constructors, which is always the same; NULL for
-// a host's constructor. With it nobody but the library sees the tree.
-builder *own_builder(const quillet_builder_info &info) {
-    for (int id = 0; id < builder_count; ++id)
-        if (builder_table[id].create == info.constructor) {
-            builder *&kept = kept_builders[id];
-            if (!kept)
-                kept = info.constructor();
-            if (!kept)
-                throw std::bad_alloc();
-            return kept;
-        }
-    return nullptr;
-}
-
-} // namespace
-
-// The dialects of that table, the default one first.
-constinit const dialect *const quillet::dialects[dialect_count] = {
-    builder_table[0].own, builder_table[1].own, builder_table[3].own};
 
 void quillet_init(void) {
     for (int id = 0; id < builder_count; ++id) {
@@ -90,12 +36,16 @@ quillet_builder_info *quillet_get_builder_info(int builder_id) {
 
 int quillet_get_builder_id(const char *name) {
     for (int id = 0; id < builder_count; ++id)
-        if (equal_ignoring_case(quillet_builders[id]->builder_name, name))
+        if (equal_ignoring_case(builder_info_of(id).builder_name, name))
             return id;
     return -1;
 }
 
 namespace {
+
+struct builder_freed {
+    void operator()(builder *self) const { quillet_builder_free(self); }
+};
 
 // Renders the tree in root, which goes afterwards.
 build_result *render_root(builder *renderer) {
@@ -114,7 +64,7 @@ build_result *render_root_of_host(const quillet_builder_info &info) {
 // Translates, and returns the code.
 int translate(const char *input, char **output, const quillet_builder_info &info) {
     tree_memory &memory = classic_tree_memory;
-    builder *ours = own_builder(info);
+    builder *ours = classic_builders.find(info);
     const tree_under_way tree(memory, ours ? tree_owner::library : tree_owner::host);
     if (parse_query(input, memory) == QUILLET_PARSE_SYNTAX_ERROR)
         return QUILLET_INVALID_QUERY;
@@ -139,7 +89,8 @@ int quillet_translate_query(const char *input, char **output, int builder_id) {
     if (!is_builder(builder_id))
         return error_code = QUILLET_NO_SUCH_BUILDER;
     try {
-        return error_code = translate(input, output, *quillet_builders[builder_id]);
+        const rendering_under_way classic(nullptr);
+        return error_code = translate(input, output, builder_info_of(builder_id));
     } catch (const std::bad_alloc &) {
         return error_code = QUILLET_CAN_NOT_TRANSLATE;
     }
@@ -147,12 +98,11 @@ int quillet_translate_query(const char *input, char **output, int builder_id) {
 
 void quillet_release_memory(void) {
     classic_tree_memory.release();
-    release_rendering_memory();
+    kept_rendering_memory.release();
     _quillet_scanner_release();
     _quillet_date_format_scanner_reset();
-    for (builder *&kept : kept_builders)
-        if (kept)
-            quillet_builder_free(std::exchange(kept, nullptr));
+    classic_builders.release();
+    release_idle_contexts();
 }
 
 const char *quillet_get_error_description(void) {
@@ -164,13 +114,13 @@ const char *quillet_get_error_description(void) {
 int quillet_get_detailed_error_code(void) {
     if (!is_builder(last_builder_id))
         return 0;
-    const quillet_builder_info &info = *quillet_builders[last_builder_id];
+    const quillet_builder_info &info = builder_info_of(last_builder_id);
     return info.get_error_code ? info.get_error_code() : 0;
 }
 
 const char *quillet_get_detailed_error_description(void) {
     if (!is_builder(last_builder_id))
         return nullptr;
-    const quillet_builder_info &info = *quillet_builders[last_builder_id];
+    const quillet_builder_info &info = builder_info_of(last_builder_id);
     return info.get_error_description ? info.get_error_description() : nullptr;
 }

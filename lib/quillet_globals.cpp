@@ -7,19 +7,23 @@
 #include "quillet_builder_info.h"
 #include "quillet_date_format_scanner.h"
 #include "quillet_mysql_errors.h"
+#include "quillet_own_builders.h"
 #include "quillet_parse_tree.h"
 #include "quillet_parser.h"
 #include "quillet_parser_values.h"
 #include "quillet_rendering.h"
 #include "quillet_scanner.h"
 
-// Owned by quillet.cpp: the registry, the last translation, our own builders.
+// Owned by quillet.cpp: the registry, the last classic translation, the builders of classic
+// translations; what translations in any thread leave for the next one.
 quillet_builder_info *quillet_builders[4] = {};
 const char *const error_descriptions[4] = {"", "no such builder", "invalid query",
                                            "can not translate"};
 int32_t error_code = 0;
 int32_t last_builder_id = 0;
-builder *quillet::kept_builders[4] = {};
+constinit quillet::own_builders quillet::classic_builders;
+constinit std::atomic<quillet::translation_context *>
+    quillet::idle_contexts[idle_contexts_maximum] = {};
 
 // Owned by the parser: the tree of the last parse; during a parse its text; how deep it is in
 // comments, which the next parse goes on with; the value of the last token; the memory of the tree,
@@ -43,5 +47,7 @@ quillet_blocks _quillet_date_format_blocks = {};
 // Owned by the builder mysql: the reason of its last refusal. Nothing resets it.
 int32_t mysql_error_code = 0;
 
-// Owned by the renderings: the scratch that one leaves to the next, and the bound of the stack.
+// Owned by the renderings: what one leaves to the next, in the classic calls; and a pointer to what
+// the translation under way in this thread has instead.
 constinit quillet::rendering_memory quillet::kept_rendering_memory;
+constinit thread_local quillet::rendering_memory *quillet::own_rendering_memory = nullptr;

@@ -21,13 +21,20 @@ extern int32_t last_builder_id;                 /* that the last translation ask
 #ifdef __cplusplus
 }
 
-struct builder;
+#include <atomic>
 
 namespace quillet {
 
-extern builder *kept_builders[4]; // our own, made when first needed and kept
+class own_builders;
+struct translation_context;
 
-}
+extern own_builders classic_builders; // of the classic calls
+
+// Of calls of quillet_translate that have ended.
+inline constexpr int idle_contexts_maximum = 8;
+extern std::atomic<translation_context *> idle_contexts[idle_contexts_maximum];
+
+} // namespace quillet
 #endif
 
 #endif

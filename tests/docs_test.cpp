@@ -99,7 +99,7 @@ TEST(MysqlPage, HoldsEveryRefusal) {
         const std::string line = text.substr(row + 1, text.find('\n', row + 1) - row - 1);
         EXPECT_TRUE(line.ends_with(std::string(" | ") + sentence + " |")) << line;
     };
-#define ERROR(name, code, text)                                                                    \
+#define ERROR(name, code, text, hint)                                                              \
     if (code != 0)                                                                                 \
         expect_row(code, text);
 #include "quillet_mysql_errors.def"

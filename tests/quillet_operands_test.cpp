@@ -237,7 +237,7 @@ outcome render_by(const quillet::kind_rule<node_join> &rule, int type) {
         make(node_join{.type = type, .table = make(node_table{.identifier = identifier("t")})}));
     kept_reason = 0;
     rendering r(self.get());
-    return taken(finished(r, r.by_rule(rule, of_the_test, join.get(), nullptr)));
+    return taken(r.finish(r.by_rule(rule, of_the_test, join.get(), nullptr)));
 }
 
 TEST(Rows, RefuseAKindUnderACondition) {

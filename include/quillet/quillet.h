@@ -1,22 +1,29 @@
 /*
  * Quillet translates one SQL statement in the PostgreSQL dialect.
  *
- *     char *text;
- *     quillet_init();
- *     if (quillet_translate_query("select 1", &text, quillet_get_builder_id("mysql")) == 0) {
- *         puts(text);
- *         free(text);
- *     }
- *     quillet_done();
+ *     const char *statement = "select a || b from t";
+ *     quillet_translation *made =
+ *         quillet_translate(statement, strlen(statement), quillet_get_builder_id("mysql"), NULL);
+ *     if (made->text)
+ *         puts(made->text);
+ *     for (size_t i = 0; i < made->diagnostic_count; ++i)
+ *         fprintf(stderr, "%d: %s\n", made->diagnostics[i].line, made->diagnostics[i].message);
+ *     quillet_translation_free(made);
  *
- * The state of the library is one for the process: one translation at a time. An error of the
- * syntax is also reported on standard output, and a character that no token can hold ends the
- * process with status 0.
+ * There are two ways in. quillet_translate may be called from any thread, prints nothing and gives
+ * every reason with its place. quillet_translate_query is the classic call, one at a time in a
+ * process: it reports an error of the syntax on standard output, lets what a failed query left
+ * unread belong to the next one, and ends the process with status 0 at a character that no token
+ * can hold. Both give the same texts and codes.
  */
 #ifndef QUILLET_H
 #define QUILLET_H
 
+#include <stddef.h>
+#include <stdint.h>
+
 #include "quillet_builder_info.h"
+#include "quillet_diagnostic.h"
 #include "quillet_export.h"
 
 #ifdef __cplusplus
@@ -32,8 +39,43 @@ enum {
                                       or no memory */
 };
 
-/* Makes the library ready; to be called before anything else here. Calling it again does no harm.
+/* What became of a statement. */
+typedef struct quillet_translation {
+    int32_t code;       /* as quillet_translate_query returns it */
+    char *text;         /* ends with a NUL; NULL without a translation */
+    size_t text_length; /* without that NUL; 0 without a translation */
+    size_t diagnostic_count;
+    quillet_diagnostic *diagnostics; /* in the order of their places; NULL if there are none */
+} quillet_translation;
+
+/* What may be asked of a translation. */
+typedef struct quillet_options {
+    size_t size;       /* sizeof(quillet_options): later versions have more fields */
+    size_t text_limit; /* bytes a text may take; 0: the library's own limit */
+    size_t tree_limit; /* bytes the tree may take; likewise */
+} quillet_options;
+
+/*
+ * Translates one statement of so many bytes, which need not end with a NUL; NULL is an empty one.
+ * options: NULL for all defaults. Fields that a size leaves out are 0, and what a later version has
+ * more is not looked at; a limit above the library's own is that one.
+ *
+ * Returns a new record, which the caller gives to quillet_translation_free, and never NULL: without
+ * memory it is one that says so. Its code is that of quillet_translate_query, and so is its text,
+ * as if no query had been translated before.
+ *
+ * May be called from any thread, by several at the same time, without quillet_init, and from a
+ * builder's operation. It prints nothing, ends no process and leaves the classic call's state
+ * alone: the descriptions of quillet_get_error_description and its kin are not about it.
  */
+QUILLET_API quillet_translation *quillet_translate(const char *statement, size_t length,
+                                                   int builder_id, const quillet_options *options);
+
+/* Frees a translation with its text and its diagnostics. NULL does nothing. */
+QUILLET_API void quillet_translation_free(quillet_translation *translation);
+
+/* Makes the library ready; to be called before anything but quillet_translate. Calling it again
+   does no harm. */
 QUILLET_API void quillet_init(void);
 
 /* Ends the use of the library. */
@@ -56,8 +98,10 @@ QUILLET_API int quillet_translate_query(const char *input, char **output, int bu
 
 /*
  * Gives back the memory that translations leave for the next one: up to 4 MiB, up to 150 MiB after
- * a large statement until a small one has been translated, and twice the longest token. To be
- * called between translations. What a failed query left unread stays.
+ * a large statement until a small one has been translated, and twice the longest token. As much is
+ * kept for each of up to eight calls of quillet_translate at the same time. To be called between
+ * classic translations; calls of quillet_translate may go on. What a failed query left unread
+ * stays.
  */
 QUILLET_API void quillet_release_memory(void);
 

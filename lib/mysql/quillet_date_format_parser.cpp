@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <new>
+#include <string>
 #include <utility>
 
 #include "quillet_date_format_scanner.h"
@@ -45,13 +46,21 @@ template <class Result> Result *or_throw(Result *made) {
     return made;
 }
 
-// The text of a quoted token without its quotes.
-char *taken_string() {
-    return or_throw(
-        quillet_extract_string_free(std::exchange(quillet_format_string, nullptr), 1, 1));
-}
+// A scanner, and the text of its last quoted token, which is owned until it is taken.
+struct token_source {
+    int (*lex)(char **string, void *scanner);
+    void *scanner;
+    char *&string;
 
-void scan(const char *pattern, date_format_list &head) {
+    int next() const { return lex(&string, scanner); }
+
+    // The text without its quotes.
+    char *taken_string() const {
+        return or_throw(quillet_extract_string_free(std::exchange(string, nullptr), 1, 1));
+    }
+};
+
+void scan(const token_source &source, date_format_list &head) {
     date_format_node *last = nullptr;
     const auto append = [&] {
         date_format_node *node = or_throw(quillet_date_format_node_create());
@@ -62,13 +71,12 @@ void scan(const char *pattern, date_format_list &head) {
         last = node;
     };
 
-    const pattern_being_scanned scanned(pattern);
-    while (const int token = yy_quillet_date_format_lex()) {
+    while (const int token = source.next()) {
         switch (token) {
         case DATE_FORMAT_STRING:
             append();
             last->format = token;
-            last->string = taken_string();
+            last->string = source.taken_string();
             break;
         case DATE_FORMAT_SUFFIX_TH_UPPER:
         case DATE_FORMAT_SUFFIX_TH_LOWER:
@@ -90,6 +98,20 @@ void scan(const char *pattern, date_format_list &head) {
     }
 }
 
+// What a scanner in place holds.
+struct in_place_memory {
+    in_place_memory() = default;
+    ~in_place_memory() {
+        std::free(string);
+        _quillet_blocks_give_all(&blocks);
+    }
+    in_place_memory(const in_place_memory &) = delete;
+    in_place_memory &operator=(const in_place_memory &) = delete;
+
+    quillet_blocks blocks = {};
+    char *string = nullptr;
+};
+
 } // namespace
 
 void quillet::date_format_freed::operator()(date_format_node *list) const {
@@ -99,12 +121,24 @@ void quillet::date_format_freed::operator()(date_format_node *list) const {
 date_format_list quillet::parse_date_format(const char *pattern) {
     date_format_list head;
     try {
-        scan(pattern, head);
+        const pattern_being_scanned scanned(pattern);
+        scan({_quillet_date_format_pattern_lex, nullptr, quillet_format_string}, head);
     } catch (const std::bad_alloc &) {
         std::free(std::exchange(quillet_format_string, nullptr));
         _quillet_date_format_scanner_reset();
         throw;
     }
+    return head;
+}
+
+date_format_list quillet::parse_date_format_in_place(std::string_view pattern) {
+    std::string text(pattern);
+    text.append(2, '\0');
+    in_place_memory memory;
+    void *scanner =
+        _quillet_date_format_in_place_begin(&memory.blocks, text.data(), pattern.size());
+    date_format_list head;
+    scan({_quillet_date_format_in_place_lex, scanner, memory.string}, head);
     return head;
 }
 

@@ -21,10 +21,10 @@ quillet_builder_info quillet_mysql_builder_info = {
 
 quillet_builder_info *quillet_mysql_builder_get_info(void) { return &quillet_mysql_builder_info; }
 
-int32_t quillet_mysql_get_error_code(void) { return mysql_error_code; }
+int32_t quillet_mysql_get_error_code(void) { return mysql::kept_reason(); }
 
 const char *quillet_mysql_get_error_description(void) {
-    const std::int64_t index = -static_cast<std::int64_t>(mysql_error_code);
+    const std::int64_t index = -static_cast<std::int64_t>(mysql::kept_reason());
     const bool known = index >= 0 && index < std::int64_t{std::size(mysql_error_descriptions)};
     return known ? mysql_error_descriptions[index] : "";
 }
@@ -94,6 +94,7 @@ constinit const dialect quillet::mysql_dialect = [] {
     own.functions = functions.data();
     own.cast = &mysql::cast;
     own.keep_reason = mysql::keep_reason;
+    own.notice_of = mysql::notice_of;
     return own;
 }();
 

@@ -115,9 +115,9 @@ outcome render_const_generic(rendering &r, node_const_generic *node, void *data)
     if (node->type == QUILLET_TYPE_UNKNOWN)
         return r.defer(node, data);
     if (!node->const_string)
-        return missing_part;
+        return r.lacks(node);
     if (node->at_time_zone)
-        return refuse(reason::AT_TIME_ZONE);
+        return refuse(r, node->at_time_zone, reason::AT_TIME_ZONE);
     const output::place begin = r.out.here();
     begin_cast(r, node->type);
     const outcome string = r.child(node->const_string);

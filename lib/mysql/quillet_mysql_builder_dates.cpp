@@ -72,7 +72,7 @@ outcome render_field(rendering &r, node_function_call *call, std::string_view na
     if (const text_template *text = extraction(field_named(name), type))
         return all.write(*text);
     all.drop();
-    return refuse(reason::EXTRACT_FIELD);
+    return refuse(r, call, reason::EXTRACT_FIELD, seen::yes);
 }
 
 } // namespace
@@ -81,7 +81,7 @@ outcome render_date_part(rendering &r, node_function_call *call, void *) {
     node_expression *field = previous_argument(*call);
     node_expression *source = last_argument(*call);
     if (!field || !source)
-        return missing_part;
+        return r.lacks(call);
     std::string name;
     const outcome rendered_name = r.taken_child(field, name);
     return render_field(r, call, without_quotes(name), rendered_name, source);
@@ -92,7 +92,7 @@ outcome render_extract(rendering &r, node_function_call *call, void *) {
     const node_expression *field = argument ? argument->expression_1 : nullptr;
     const node_column_reference *column = field ? field->column_reference : nullptr;
     if (!column || !column->column_name || !argument->expression_2)
-        return missing_part;
+        return r.lacks(call);
     std::string name;
     const outcome rendered_name = r.taken_child(column->column_name, name);
     return render_field(r, call, name, rendered_name, argument->expression_2);
@@ -102,7 +102,7 @@ outcome render_date_trunc(rendering &r, node_function_call *call, void *) {
     node_expression *field = previous_argument(*call);
     node_expression *source = last_argument(*call);
     if (!field || !source)
-        return missing_part;
+        return r.lacks(call);
     std::string name;
     operands all(r);
     all.fail_with(r.taken_child(field, name));
@@ -111,7 +111,8 @@ outcome render_date_trunc(rendering &r, node_function_call *call, void *) {
     const date_field *found = field_named(without_quotes(name));
     if (is_interval || !found || found->mask.empty()) {
         all.drop();
-        return refuse(is_interval ? reason::TRUNC_INTERVAL : reason::TRUNC_FIELD);
+        return refuse(r, call, is_interval ? reason::TRUNC_INTERVAL : reason::TRUNC_FIELD,
+                      seen::yes);
     }
     all.add_text(found->mask);
     return all.write(truncation);

@@ -64,11 +64,22 @@ bool append_specifier(text_buffer &out, const date_format_node &node) {
 // Appends the mask for a pattern. Returns false at the first word that has no equal; the mask then
 // ends before it.
 bool append_mask(text_buffer &out, std::string_view pattern) {
-    const date_format_list words = parse_date_format(std::string(pattern).c_str());
+    const date_format_list words = own_rendering_memory
+                                       ? parse_date_format_in_place(pattern)
+                                       : parse_date_format(std::string(pattern).c_str());
     for (const date_format_node *word = words.get(); word; word = word->next)
         if (!append_specifier(out, *word))
             return false;
     return true;
+}
+
+// A word that MySQL has no equal for is refused with another one's reason.
+outcome refuse_format(rendering &r, node_const_string *pattern) {
+    constexpr auto given = static_cast<std::int32_t>(reason::DEFAULT_VALUE);
+    notice what = notice_of(static_cast<std::int32_t>(reason::TO_CHAR_FORMAT));
+    what.code = given;
+    what.message = mysql_error_descriptions[-given];
+    return r.refuse(mysql_dialect, pattern, given, what, seen::yes);
 }
 
 } // namespace
@@ -79,21 +90,21 @@ outcome render_to_char(rendering &r, node_function_call *call, void *) {
     const node_expression *pattern = last_argument(*call);
     const node_const_generic *literal = pattern ? pattern->const_generic : nullptr;
     if (!value || !literal || !literal->const_string)
-        return missing_part;
+        return r.lacks(call);
     operands all(r);
     const outcome rendered_value = all.add(value);
     std::string quoted_pattern;
     all.fail_with(r.taken_child(literal->const_string, quoted_pattern));
     if (!rendered_value.record || !quillet_is_datetime_not_interval(value->sql_type)) {
         all.drop();
-        return refuse(reason::TO_CHAR);
+        return refuse(r, call, reason::TO_CHAR, seen::yes);
     }
     text_buffer mask;
     const bool is_known = append_mask(mask, without_quotes(quoted_pattern));
     all.add_text(mask.from(0));
     outcome result = all.write(text);
     if (!is_known)
-        result.fail_with(refuse(reason::DEFAULT_VALUE));
+        result.fail_with(refuse_format(r, literal->const_string));
     return result;
 }
 

@@ -25,7 +25,7 @@ outcome render_log(rendering &r, node_function_call *call, void *) {
     static constexpr text_template to_base_10("LOG(10, $1)");
     static constexpr text_template to_any_base("$1($2)");
     if (!last_argument(*call))
-        return missing_part;
+        return r.lacks(call);
     if (has_one_argument(*call)) {
         operands all(r, &to_base_10);
         all.add(last_argument(*call));
@@ -41,7 +41,7 @@ outcome render_trunc(rendering &r, node_function_call *call, void *) {
     static constexpr text_template to_integer("TRUNCATE($1, 0)");
     static constexpr text_template to_decimals("TRUNCATE($1)");
     if (!last_argument(*call))
-        return missing_part;
+        return r.lacks(call);
     const text_template &text = has_one_argument(*call) ? to_integer : to_decimals;
     operands all(r, &text);
     if (has_one_argument(*call))
@@ -55,9 +55,9 @@ outcome render_overlay(rendering &r, node_function_call *call, void *) {
     static constexpr text_template text("CONCAT(SUBSTR($1, 1, $3 - 1), $2, SUBSTR($1, $3 + $4))");
     const node_placing_from_for_argument *argument = call->placing_from_for_argument;
     if (!argument || !argument->expression_1 || !argument->expression_2)
-        return missing_part;
+        return r.lacks(call);
     if (!argument->expression_3 || !argument->expression_4)
-        return refuse(reason::OVERLAY_ARGUMENTS);
+        return refuse(r, call, reason::OVERLAY_ARGUMENTS);
     operands all(r, &text);
     all.add(argument->expression_1);
     all.add(argument->expression_2);
@@ -70,10 +70,10 @@ outcome render_overlay(rendering &r, node_function_call *call, void *) {
 outcome render_substring(rendering &r, node_function_call *call, void *) {
     node_placing_from_for_argument *argument = call->placing_from_for_argument;
     if (!argument)
-        return missing_part;
+        return r.lacks(call);
     outcome result = r.enclosed_child("SUBSTRING(", argument, ")");
     if (argument->sql_type != QUILLET_TYPE_INT8)
-        result.fail_with(refuse(reason::SUBSTRING_PATTERN));
+        result.fail_with(refuse(r, call, reason::SUBSTRING_PATTERN, seen::yes));
     return typed(call, QUILLET_TYPE_VARCHAR, result);
 }
 
@@ -94,7 +94,7 @@ outcome render_trim(rendering &r, node_function_call *call, const text_template 
     node_expression *last = last_argument(*call);
     node_expression *previous = previous_argument(*call);
     if (!last)
-        return missing_part;
+        return r.lacks(call);
     operands all(r);
     std::string_view trimmed = blank_literal;
     if (previous) {
@@ -114,7 +114,7 @@ outcome render_trim(rendering &r, node_function_call *call, const text_template 
     }
     outcome result = all.write(blanks);
     if (trimmed != blank_literal)
-        result.fail_with(refuse(reason::TRIM_CHARACTERS));
+        result.fail_with(refuse(r, call, reason::TRIM_CHARACTERS, seen::yes));
     return result;
 }
 

@@ -17,7 +17,7 @@ outcome render_overlaps(rendering &r, node_expression *node, void *) {
     const node_overlaps_expression *second = node->overlaps_expression_2;
     if (!first || !second || !first->expression_1 || !first->expression_2 ||
         !second->expression_1 || !second->expression_2)
-        return missing_part;
+        return r.lacks(node);
     operands all(r);
     const auto add = [&](node_expression *operand) {
         return all.add(operand).record && operand->sql_type == QUILLET_TYPE_INTERVAL;

@@ -22,7 +22,7 @@ outcome render_limit_clausule(rendering &r, node_limit_clausule *node, void *) {
     const outcome offset = node->const_integer_2 ? both.add(node->const_integer_2) : absent;
     if (!count.text) {
         both.drop();
-        return refuse(reason::OFFSET_ALONE);
+        return refuse(r, node, reason::OFFSET_ALONE, seen::yes);
     }
     return both.write(offset.text ? count_and_offset : count_alone);
 }
@@ -42,7 +42,7 @@ outcome render_select_item(rendering &r, node_select_item *node, void *) {
 // A double quote at either end becomes a backquote.
 outcome render_identifier(rendering &r, node_identifier *node, void *) {
     if (!node->name)
-        return missing_part;
+        return r.lacks(node);
     const output::place begin = r.out.here();
     r.out.append(node->name);
     r.out.replace_at_ends(begin, '"', '`');
@@ -56,7 +56,7 @@ outcome render_expression_or_default_item(rendering &r, node_expression_or_defau
         return r.defer(node, data);
     const auto *column = static_cast<const node_identifier *>(data);
     if (!column || !column->name)
-        return refuse(reason::DEFAULT_VALUE);
+        return refuse(r, node, reason::DEFAULT_VALUE);
     r.out.append("DEFAULT(");
     r.out.append(column->name);
     r.out.append(')');

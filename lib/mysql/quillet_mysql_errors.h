@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-#include "quillet_rules.h"
+#include "quillet_findings.h"
 
 extern "C" {
 extern int32_t mysql_error_code; // of the last refusal; nothing resets it
@@ -16,15 +16,19 @@ extern const char *const mysql_error_descriptions[40];
 namespace quillet::mysql {
 
 enum class reason : std::int32_t {
-#define ERROR(name, code, text) name = code,
+#define ERROR(name, code, text, hint) name = code,
 #include "quillet_mysql_errors.def"
 };
 
-// Keeps the reason of a refusal.
-void keep_reason(std::int32_t code);
+// The reason of the last refusal: of the classic calls, or of the translation under way in this
+// thread.
+std::int32_t &kept_reason();
 
-// Refuses a construct, which then has no text, unless it says otherwise.
-outcome refuse(reason why);
+// Keeps the reason of a refusal.
+void keep_reason(std::int32_t reason);
+
+// What is said of a construct that is refused.
+notice notice_of(std::int32_t reason);
 
 } // namespace quillet::mysql
 

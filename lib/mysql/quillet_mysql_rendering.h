@@ -42,6 +42,12 @@ extern const dialect mysql_dialect;
 
 namespace mysql {
 
+// Refuses a node, which then has no text, unless it says otherwise.
+template <class Node>
+outcome refuse(rendering &r, Node *node, reason why, seen children = seen::no) {
+    return r.refuse(mysql_dialect, node, static_cast<std::int32_t>(why), children);
+}
+
 // The renderers that the rows of quillet_mysql_slots.def name.
 
 outcome render_select_item(rendering &r, node_select_item *node, void *);

@@ -12,7 +12,7 @@ outcome render_expression(rendering &r, node_expression *node, void *) {
 
 outcome render_overlaps_expression(rendering &r, node_overlaps_expression *node, void *) {
     if (!node->expression_1 || !node->expression_2)
-        return missing_part;
+        return r.lacks(node);
     outcome result = r.enclosed_child("", node->expression_1, ", ");
     result.fail_with(r.child(node->expression_2));
     return result;
@@ -22,7 +22,7 @@ outcome render_overlaps_expression(rendering &r, node_overlaps_expression *node,
 
 outcome render_case_expression(rendering &r, node_case_expression *node, void *) {
     if (!node->when_list)
-        return missing_part;
+        return r.lacks(node);
     r.out.append("CASE ");
     const output::place begin = r.out.here();
     outcome result = a_text;
@@ -42,7 +42,7 @@ outcome render_when_list(rendering &r, node_when_list *node, void *data) {
 
 outcome render_when_item(rendering &r, node_when_item *node, void *) {
     if (!node->expression_1 || !node->expression_2)
-        return missing_part;
+        return r.lacks(node);
     outcome result = r.enclosed_child("WHEN ", node->expression_1, " THEN ");
     result.fail_with(r.child(node->expression_2));
     return result;
@@ -50,7 +50,7 @@ outcome render_when_item(rendering &r, node_when_item *node, void *) {
 
 outcome render_else_clausule(rendering &r, node_else_clausule *node, void *) {
     if (!node->expression)
-        return missing_part;
+        return r.lacks(node);
     return r.enclosed_child("ELSE ", node->expression);
 }
 

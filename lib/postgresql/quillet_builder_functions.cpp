@@ -19,7 +19,7 @@ constexpr name_index<function_count> function_names({
 
 outcome render_function_call(rendering &r, node_function_call *node, void *) {
     if (!node->function_name)
-        return missing_part;
+        return r.lacks(node);
     const output::place begin = r.out.here();
     outcome result = r.child(node->function_name);
     const int index = result.text ? function_names.find(r.out.text_since(begin)) : -1;
@@ -28,8 +28,7 @@ outcome render_function_call(rendering &r, node_function_call *node, void *) {
         if (const auto own = r.self->*slot) {
             r.out.cut(begin);
             const dialect *home = dialect_of(slot, own);
-            return home ? render_function(r, *home, index, node)
-                        : r.take(own(r.self, node, nullptr));
+            return home ? render_function(r, *home, index, node) : r.call(own, node, nullptr);
         }
     }
     r.out.append('(');
@@ -68,7 +67,7 @@ outcome render_agregate_expression(rendering &r, node_agregate_expression *node,
 
 outcome render_using_argument(rendering &r, node_using_argument *node, void *) {
     if (!node->expression || !node->identifier)
-        return missing_part;
+        return r.lacks(node);
     outcome result = r.enclosed_child("", node->expression, " USING ");
     result.fail_with(r.child(node->identifier));
     return result;
@@ -76,7 +75,7 @@ outcome render_using_argument(rendering &r, node_using_argument *node, void *) {
 
 outcome render_in_argument(rendering &r, node_in_argument *node, void *) {
     if (!node->expression_1 || !node->expression_2)
-        return missing_part;
+        return r.lacks(node);
     outcome result = r.enclosed_child("", node->expression_1, " IN ");
     result.fail_with(r.child(node->expression_2));
     return result;
@@ -84,7 +83,7 @@ outcome render_in_argument(rendering &r, node_in_argument *node, void *) {
 
 outcome render_from_for_argument(rendering &r, node_from_for_argument *node, void *) {
     if (!node->expression_1 || !node->expression_2)
-        return missing_part;
+        return r.lacks(node);
     outcome result = r.enclosed_child("", node->expression_1, " FROM ");
     result.fail_with(r.child(node->expression_2));
     result.fail_with(r.prefixed_child(" FOR ", node->expression_3));
@@ -94,7 +93,7 @@ outcome render_from_for_argument(rendering &r, node_from_for_argument *node, voi
 outcome render_placing_from_for_argument(rendering &r, node_placing_from_for_argument *node,
                                          void *) {
     if (!node->expression_1 || !node->expression_2)
-        return missing_part;
+        return r.lacks(node);
     outcome result = r.enclosed_child("", node->expression_1, " PLACING ");
     result.fail_with(r.child(node->expression_2));
     const outcome from = r.prefixed_child(" FROM ", node->expression_3);
@@ -109,7 +108,7 @@ outcome render_placing_from_for_argument(rendering &r, node_placing_from_for_arg
 
 outcome render_trim_argument(rendering &r, node_trim_argument *node, void *) {
     if (!node->expression_2)
-        return missing_part;
+        return r.lacks(node);
     const std::string_view side = node->mode == QUILLET_TRIM_BOTH       ? "BOTH"
                                   : node->mode == QUILLET_TRIM_LEADING  ? "LEADING"
                                   : node->mode == QUILLET_TRIM_TRAILING ? "TRAILING"

@@ -8,11 +8,11 @@ namespace quillet {
 namespace {
 
 // Renders a literal that stands in the tree as it was written.
-outcome render_literal(rendering &r, const char *text, std::int32_t &sql_type, int type) {
+template <class Node> outcome render_literal(rendering &r, Node *node, const char *text, int type) {
     if (!text)
-        return missing_part;
+        return r.lacks(node);
     r.out.append(text);
-    sql_type = type;
+    node->sql_type = type;
     return a_text;
 }
 
@@ -60,7 +60,7 @@ outcome render_const_generic(rendering &r, node_const_generic *node, void *) {
 
 outcome render_at_time_zone(rendering &r, node_at_time_zone *node, void *) {
     if (!node->const_string)
-        return missing_part;
+        return r.lacks(node);
     const output::place begin = r.out.here();
     const outcome result = r.enclosed_child(
         node->type == QUILLET_ZONE_TIME_INTERVAL ? "AT TIME ZONE INTERVAL " : "AT TIME ZONE ",
@@ -68,24 +68,24 @@ outcome render_at_time_zone(rendering &r, node_at_time_zone *node, void *) {
     if (node->type == QUILLET_ZONE_TIME || node->type == QUILLET_ZONE_TIME_INTERVAL)
         return result;
     r.out.cut(begin);
-    return missing_part;
+    return r.lacks(node, seen::yes);
 }
 
 outcome render_const_string(rendering &r, node_const_string *node, void *) {
-    return render_literal(r, node->string, node->sql_type, QUILLET_TYPE_VARCHAR);
+    return render_literal(r, node, node->string, QUILLET_TYPE_VARCHAR);
 }
 
 outcome render_const_integer(rendering &r, node_const_integer *node, void *) {
-    return render_literal(r, node->integer, node->sql_type, QUILLET_TYPE_INT8);
+    return render_literal(r, node, node->integer, QUILLET_TYPE_INT8);
 }
 
 outcome render_const_floating(rendering &r, node_const_floating *node, void *) {
-    return render_literal(r, node->floating, node->sql_type, QUILLET_TYPE_FLOAT8);
+    return render_literal(r, node, node->floating, QUILLET_TYPE_FLOAT8);
 }
 
 outcome render_escape(rendering &r, node_escape *node, void *) {
     if (!node->string)
-        return missing_part;
+        return r.lacks(node);
     r.out.append("ESCAPE ");
     r.out.append(node->string);
     return a_text;

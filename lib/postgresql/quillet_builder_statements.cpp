@@ -19,7 +19,7 @@ outcome render_main(rendering &r, node_main *node, void *) {
 
 outcome render_select(rendering &r, node_select *node, void *) {
     if (!node->distinct_select_list)
-        return missing_part;
+        return r.lacks(node);
     outcome result = r.enclosed_child("SELECT ", node->distinct_select_list);
     const output::place after_list = r.out.here();
     r.out.append(" FROM ");
@@ -37,7 +37,7 @@ outcome render_select(rendering &r, node_select *node, void *) {
 
 outcome render_insert(rendering &r, node_insert *node, void *) {
     if (!node->table || !node->values_list)
-        return missing_part;
+        return r.lacks(node);
     const output::place begin = r.out.here();
     outcome result = r.enclosed_child("INSERT INTO ", node->table);
     const outcome columns = r.prefixed_child(" (", node->identifier_list);
@@ -47,14 +47,14 @@ outcome render_insert(rendering &r, node_insert *node, void *) {
     const auto *values = node->values_list->expression_or_default_list;
     if (columns.text && node->identifier_list->count != (values ? values->count : 0)) {
         r.out.cut(begin);
-        return missing_part;
+        return r.lacks(node, seen::yes);
     }
     return result;
 }
 
 outcome render_update(rendering &r, node_update *node, void *) {
     if (!node->table || !node->set_clausule)
-        return missing_part;
+        return r.lacks(node);
     r.out.append("UPDATE ");
     const output::place begin = r.out.here();
     outcome result = a_text;
@@ -66,7 +66,7 @@ outcome render_update(rendering &r, node_update *node, void *) {
 
 outcome render_delete(rendering &r, node_delete *node, void *) {
     if (!node->table)
-        return missing_part;
+        return r.lacks(node);
     r.out.append("DELETE FROM ");
     const output::place begin = r.out.here();
     outcome result = a_text;
@@ -93,7 +93,7 @@ struct column_names {
 
 outcome render_values_list(rendering &r, node_values_list *node, void *names) {
     if (!node->expression_or_default_list)
-        return missing_part;
+        return r.lacks(node);
     r.out.append("(");
     const outcome items = r.child(node->expression_or_default_list, names);
     r.out.append(")");
@@ -119,7 +119,7 @@ outcome render_expression_or_default_item(rendering &r, node_expression_or_defau
 
 outcome render_set_clausule(rendering &r, node_set_clausule *node, void *) {
     if (!node->set_list)
-        return missing_part;
+        return r.lacks(node);
     return r.enclosed_child("SET ", node->set_list);
 }
 
@@ -129,7 +129,7 @@ outcome render_set_list(rendering &r, node_set_list *node, void *data) {
 
 outcome render_set_item(rendering &r, node_set_item *node, void *) {
     if (!node->column_reference || !node->expression)
-        return missing_part;
+        return r.lacks(node);
     outcome result = r.enclosed_child("", node->column_reference, " = ");
     result.fail_with(r.child(node->expression));
     return result;
@@ -139,7 +139,7 @@ outcome render_set_item(rendering &r, node_set_item *node, void *) {
 
 outcome render_tables(rendering &r, node_tables *node, void *) {
     if (!node->tables_list)
-        return missing_part;
+        return r.lacks(node);
     const output::place begin = r.out.here();
     outcome result = r.child(node->tables_list);
     const outcome joins = r.spaced_child(begin, node->join_list);
@@ -154,7 +154,7 @@ outcome render_tables_list(rendering &r, node_tables_list *node, void *data) {
 
 outcome render_table(rendering &r, node_table *node, void *) {
     if (!node->identifier)
-        return missing_part;
+        return r.lacks(node);
     outcome result = r.child(node->identifier);
     const outcome alias = r.prefixed_child(" AS ", node->alias);
     result.fail_with(alias);
@@ -173,7 +173,7 @@ outcome render_join(rendering &r, node_join *node, void *) {
                                                  "RIGHT OUTER JOIN ",
                                                  "FULL OUTER JOIN "};
     if (!node->table)
-        return missing_part;
+        return r.lacks(node);
     const bool known = node->type >= QUILLET_JOIN_CROSS && node->type <= QUILLET_JOIN_FULL;
     if (node->natural)
         r.out.append("NATURAL ");
@@ -204,13 +204,13 @@ outcome render_join_expression(rendering &r, node_join_expression *node, void *)
 
 outcome render_where_clausule(rendering &r, node_where_clausule *node, void *) {
     if (!node->expression)
-        return missing_part;
+        return r.lacks(node);
     return r.enclosed_child("WHERE ", node->expression);
 }
 
 outcome render_group_by_clausule(rendering &r, node_group_by_clausule *node, void *) {
     if (!node->column_reference_list)
-        return missing_part;
+        return r.lacks(node);
     r.out.append("GROUP BY ");
     const output::place begin = r.out.here();
     outcome result = a_text;
@@ -221,13 +221,13 @@ outcome render_group_by_clausule(rendering &r, node_group_by_clausule *node, voi
 
 outcome render_having_clausule(rendering &r, node_having_clausule *node, void *) {
     if (!node->expression)
-        return missing_part;
+        return r.lacks(node);
     return r.enclosed_child("HAVING ", node->expression);
 }
 
 outcome render_order_by_clausule(rendering &r, node_order_by_clausule *node, void *) {
     if (!node->order_by_list)
-        return missing_part;
+        return r.lacks(node);
     return r.enclosed_child("ORDER BY ", node->order_by_list);
 }
 
@@ -238,7 +238,7 @@ outcome render_order_by_list(rendering &r, node_order_by_list *node, void *data)
 
 outcome render_order_by_item(rendering &r, node_order_by_item *node, void *) {
     if (!node->expression)
-        return missing_part;
+        return r.lacks(node);
     return r.enclosed_child("", node->expression,
                             node->type == QUILLET_SORT_ASCENDING ? " ASC" : " DESC");
 }
@@ -256,7 +256,7 @@ outcome render_limit_clausule(rendering &r, node_limit_clausule *node, void *) {
 
 outcome render_distinct_select_list(rendering &r, node_distinct_select_list *node, void *) {
     if (!node->select_list)
-        return missing_part;
+        return r.lacks(node);
     const output::place begin = r.out.here();
     const outcome distinct = r.child(node->distinct);
     const outcome list = r.spaced_child(begin, node->select_list);
@@ -291,7 +291,7 @@ outcome render_identifier_list(rendering &r, node_identifier_list *node, void *d
 
 outcome render_identifier(rendering &r, node_identifier *node, void *) {
     if (!node->name)
-        return missing_part;
+        return r.lacks(node);
     r.out.append(node->name);
     return a_text;
 }
@@ -303,7 +303,7 @@ outcome render_column_reference_list(rendering &r, node_column_reference_list *n
 
 outcome render_column_reference(rendering &r, node_column_reference *node, void *) {
     if (!node->column_name)
-        return missing_part;
+        return r.lacks(node);
     const outcome qualifier = r.child(node->correlation_name);
     if (qualifier.text)
         r.out.append(".");

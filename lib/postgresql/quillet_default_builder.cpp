@@ -75,6 +75,7 @@ constinit const dialect quillet::postgresql_dialect = {
     .cast = &cast,
     .frame = nullptr,
     .keep_reason = nullptr,
+    .notice_of = nullptr,
 };
 
 builder *quillet_default_builder_create(void) {

@@ -9,6 +9,7 @@
 #include <iterator>
 
 #include "quillet_builder.h"
+#include "quillet_findings.h"
 #include "quillet_rules.h"
 
 namespace quillet {
@@ -22,12 +23,7 @@ struct dialect {
     const cast_rule *cast;
     const expression_frame *frame;            // NULL for none
     void (*keep_reason)(std::int32_t reason); // of a refusal; NULL: it refuses nothing
-
-    // Refuses a construct.
-    outcome refuse(std::int32_t reason) const {
-        keep_reason(reason);
-        return refused_part;
-    }
+    notice (*notice_of)(std::int32_t reason);
 };
 
 // The dialects, the default one first. They are listed where all of them are known, at the top of

@@ -60,7 +60,7 @@ node_expression *begin_expression(rendering &r, step &begun, outcome &whole) {
             return nullptr;
         if (!node->expression_1) {
             if (!whole.status)
-                whole = missing_part;
+                whole = r.lacks(node);
             return nullptr;
         }
         r.out.append('(');
@@ -83,7 +83,7 @@ node_expression *begin_expression(rendering &r, step &begun, outcome &whole) {
         }
         whole = render_operator(r, begun.use, node, nullptr);
     } else {
-        whole = own ? r.take(own(r.self, node, nullptr)) : absent;
+        whole = r.call(own, node, nullptr);
     }
     return nullptr;
 }
@@ -172,7 +172,7 @@ outcome render_framed_expression(rendering &r, node_expression *node,
 
 outcome render_cast(rendering &r, const cast_rule &rule, node_cast_expression *node) {
     if (!node->expression)
-        return missing_part;
+        return r.lacks(node);
     const output::place begin = r.out.here();
     rule.begin(r, *node);
     return rule.end(r, *node, begin, r.child(node->expression));

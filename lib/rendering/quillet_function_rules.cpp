@@ -20,7 +20,7 @@ int default_type_of(int function, const node_function_call &call) {
 outcome render_function(rendering &r, const dialect &home, int index, node_function_call *call) {
     const function_rule &rule = home.functions[index];
     if (rule.refusal)
-        return home.refuse(rule.refusal);
+        return r.refuse(home, call, rule.refusal);
     if (rule.own)
         return rule.own(r, call, nullptr);
     node_expression *last = last_argument(*call);
@@ -30,17 +30,17 @@ outcome render_function(rendering &r, const dialect &home, int index, node_funct
     case arguments::nothing: break;
     case arguments::last:
         if (!last)
-            return missing_part;
+            return r.lacks(call);
         all.add(last);
         break;
     case arguments::list:
         if (!call->expressions_list)
-            return missing_part;
+            return r.lacks(call);
         all.add(call->expressions_list);
         break;
     case arguments::two:
         if (!last || !previous)
-            return missing_part;
+            return r.lacks(call);
         all.add(previous);
         all.add(last);
         break;

@@ -31,7 +31,7 @@ outcome render_list(rendering &r, List *head, void *data, std::string_view separ
     outcome result = absent;
     for (;;) {
         if (!(list->*Item)) {
-            result = missing_part;
+            result = r.lacks(list);
             break;
         }
         steps.down({list, data});

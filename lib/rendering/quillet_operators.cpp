@@ -86,7 +86,7 @@ outcome write_by_types(rendering &r, operator_use use, node_expression *node, vo
     if (const typed_text *chosen = text_for(use.rule().by_types, left, right)) {
         if (chosen->refusal) {
             all.drop();
-            return use.home->refuse(chosen->refusal);
+            return r.refuse(*use.home, node, chosen->refusal, seen::yes);
         }
         node->sql_type = chosen->type;
         return all.write(chosen->text, chosen->skipped);
@@ -95,7 +95,7 @@ outcome write_by_types(rendering &r, operator_use use, node_expression *node, vo
     const auto deferred_to = inherited(*r.self, slot);
     if (!deferred_to || !dialect_of(slot, deferred_to)) {
         all.drop();
-        return deferred_to ? r.take(deferred_to(r.self, node, data)) : absent;
+        return r.call(deferred_to, node, data);
     }
     node->sql_type = use.default_rule().type(left, right);
     return all.write(use.default_rule().text);
@@ -164,11 +164,11 @@ outcome end_operator(rendering &r, operator_use use, node_expression *node, void
 outcome render_operator(rendering &r, operator_use use, node_expression *node, void *data) {
     const operator_rule &rule = use.rule();
     if (rule.refusal)
-        return use.home->refuse(rule.refusal);
+        return r.refuse(*use.home, node, rule.refusal);
     if (rule.own)
         return rule.own(r, node, data);
     if (is_missing_operand(use, *node))
-        return missing_part;
+        return r.lacks(node);
     operands all(r, known_text(rule));
     return complete(r, use, node, data, all, 0, absent);
 }

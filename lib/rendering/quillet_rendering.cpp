@@ -16,25 +16,24 @@ template <class Element> void give_back(std::vector<Element> &mine, std::vector<
 
 } // namespace
 
-rendering::rendering(builder *renderer) : self(renderer), out(memory_.gaps) {
-    rendering_memory &kept = kept_rendering_memory;
-    memory_.lists.swap(kept.lists);
-    memory_.expressions.swap(kept.expressions);
-    memory_.gaps.swap(kept.gaps);
-    is_outermost_ = !kept.stack.is_set();
+rendering::rendering(builder *renderer)
+    : kept_(rendering_memory_in_use()), self(renderer), out(memory_.gaps) {
+    memory_.lists.swap(kept_.lists);
+    memory_.expressions.swap(kept_.expressions);
+    memory_.gaps.swap(kept_.gaps);
+    is_outermost_ = !kept_.stack.is_set();
     if (is_outermost_) {
-        kept.stack.set(__builtin_frame_address(0));
-        kept.is_lacking = false;
+        kept_.stack.set(__builtin_frame_address(0));
+        kept_.is_lacking = false;
     }
 }
 
 rendering::~rendering() {
-    rendering_memory &kept = kept_rendering_memory;
-    give_back(memory_.lists, kept.lists);
-    give_back(memory_.expressions, kept.expressions);
-    give_back(memory_.gaps, kept.gaps);
+    give_back(memory_.lists, kept_.lists);
+    give_back(memory_.expressions, kept_.expressions);
+    give_back(memory_.gaps, kept_.gaps);
     if (is_outermost_)
-        kept.stack.reset();
+        kept_.stack.reset();
 }
 
 outcome rendering::take(build_result *result) {
@@ -84,26 +83,30 @@ std::unique_ptr<build_result, freed> new_result(std::int32_t status) {
     return record;
 }
 
-void release_rendering_memory() {
-    rendering_memory given_back;
-    given_back.lists.swap(kept_rendering_memory.lists);
-    given_back.expressions.swap(kept_rendering_memory.expressions);
-    given_back.gaps.swap(kept_rendering_memory.gaps);
+void rendering_memory::release() {
+    std::vector<list_step>().swap(lists);
+    std::vector<expression_step>().swap(expressions);
+    output::memory().swap(gaps);
 }
 
-build_result *finished(rendering &r, outcome result) {
+build_result *rendering::finish(outcome result) {
     if (!result.record)
         return nullptr;
     if (result.text) {
-        r.out.settle({});
-        if (!r.has_room_for(0))
+        out.settle({});
+        if (!has_room_for(0))
             result = refused_part;
     }
-    if (r.is_exhausted() || kept_rendering_memory.is_lacking)
+    if (is_exhausted() || kept_.is_lacking) {
         result = refused_part;
+        if (kept_.heard)
+            kept_.heard->add(kept_.is_lacking                     ? notices::out_of_memory
+                             : exhausted_ == exhaustion::of_stack ? notices::too_deep
+                                                                  : notices::text_too_large);
+    }
     std::unique_ptr<build_result, freed> record = new_result(result.status);
     if (result.text)
-        record->query = r.out.release();
+        record->query = out.release();
     return record.release();
 }
 

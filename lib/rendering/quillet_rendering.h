@@ -16,6 +16,7 @@
 #include <new>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "quillet_dialect.h"
@@ -59,16 +60,44 @@ struct rendering_memory {
     std::vector<expression_step> expressions;
     output::memory gaps;
     stack_bound stack;
-    bool is_lacking =
-        false; // whether an operation has failed for want of memory, in the outermost one
+    bool is_lacking = false; // whether an operation has failed for want of memory, in the outermost
+    std::size_t text_limit = QUILLET_TEXT_SIZE_MAXIMUM;
+    findings *heard = nullptr; // where what is found goes; NULL: nowhere, in the classic call
+
+    // Gives the scratch back.
+    void release();
 };
 
+// That of the classic calls, and that of the translation under way in this thread, if one is.
 extern rendering_memory kept_rendering_memory;
+[[gnu::tls_model(
+    "initial-exec")]] extern constinit thread_local rendering_memory *own_rendering_memory;
 
-// Gives back what is kept for the next rendering.
-void release_rendering_memory();
+inline rendering_memory &rendering_memory_in_use() {
+    return own_rendering_memory ? *own_rendering_memory : kept_rendering_memory;
+}
+
+// While one lives, the renderings of this thread have a memory, or with NULL that of the classic
+// calls.
+class rendering_under_way {
+public:
+    explicit rendering_under_way(rendering_memory *memory)
+        : former_(std::exchange(own_rendering_memory, memory)) {
+        rendering_memory_in_use().is_lacking = false;
+    }
+    ~rendering_under_way() { own_rendering_memory = former_; }
+    rendering_under_way(const rendering_under_way &) = delete;
+    rendering_under_way &operator=(const rendering_under_way &) = delete;
+
+private:
+    rendering_memory *former_;
+};
+
+// Whether the children of a node that fails have been rendered.
+enum class seen : std::uint8_t { no, yes };
 
 class rendering {
+    rendering_memory &kept_;
     rendering_memory memory_; // what the gaps of the text below live in, so it comes first
 
 public:
@@ -105,7 +134,7 @@ public:
             return rule.own(*this, node, data);
         if (!rule.refusal || (rule.is_refused && !rule.is_refused(*node)))
             return defer(node, data);
-        return home.refuse(rule.refusal);
+        return refuse(home, node, rule.refusal);
     }
 
     // Renders a child after what was written since a place, with a blank between the two if neither
@@ -154,22 +183,69 @@ public:
         return result;
     }
 
-    // Appends the text of an operation's result and frees both.
-    outcome take(build_result *result);
+    // Renders a node by a host's operation; NULL gives nothing.
+    template <class Node> outcome call(operation<Node> found, Node *node, void *data) {
+        if (!found)
+            return absent;
+        const std::size_t found_before = kept_.heard ? kept_.heard->list.size() : 0;
+        const outcome result = take(found(self, node, data));
+        if (kept_.heard && result.status && kept_.heard->list.size() == found_before)
+            kept_.heard->add_of_host(result.status, node, kind_of<Node>);
+        return result;
+    }
+
+    // Fails with a node that lacks a part.
+    template <class Node> outcome lacks(Node *node, seen children = seen::no) {
+        if (kept_.heard)
+            hear(missing_part_of(kind_of<Node>), node, children);
+        return missing_part;
+    }
+
+    // Refuses a node, with a reason of a dialect.
+    template <class Node>
+    outcome refuse(const dialect &home, Node *node, std::int32_t reason, seen children = seen::no) {
+        return refuse(home, node, reason, home.notice_of(reason), children);
+    }
+    template <class Node>
+    outcome refuse(const dialect &home, Node *node, std::int32_t reason, const notice &what,
+                   seen children) {
+        home.keep_reason(reason);
+        if (kept_.heard)
+            hear(what, node, children);
+        return refused_part;
+    }
+
+    // Takes note of something about a node. What is found in its children would be lost if they
+    // were not rendered.
+    template <class Node> [[gnu::cold]] void hear(const notice &what, Node *node, seen children) {
+        kept_.heard->add(what, node, kind_of<Node>);
+        if (children == seen::yes)
+            return;
+        const exhaustion former = exhausted_;
+        for_each_child(*node, [&](auto *unseen) {
+            const output::place begin = out.here();
+            child(unseen);
+            out.cut(begin);
+        });
+        exhausted_ = former;
+    }
 
     // Whether a limit has been reached. Nothing more is rendered then, and the rendering fails.
     [[gnu::always_inline]] bool is_exhausted() {
-        if (kept_rendering_memory.stack.is_reached())
-            exhausted_ = true;
-        return exhausted_;
+        if (kept_.stack.is_reached())
+            exhausted_ = exhaustion::of_stack;
+        return exhausted_ != exhaustion::none;
     }
 
     // Whether more characters fit in. If they do not, a limit has been reached.
     bool has_room_for(std::size_t more) {
-        if (out.size() + more > QUILLET_TEXT_SIZE_MAXIMUM)
-            exhausted_ = true;
-        return !exhausted_;
+        if (out.size() + more > kept_.text_limit)
+            exhausted_ = exhaustion::of_text;
+        return exhausted_ == exhaustion::none;
     }
+
+    // The outcome as a public operation returns it.
+    build_result *finish(outcome result);
 
 private:
     // Renders a node by an operation that belongs into its slot. In line, as nested trees are
@@ -178,11 +254,16 @@ private:
     [[gnu::always_inline]] outcome by(operation<Node> found, Node *node, void *data) {
         if (const dialect *home = dialect_of(slot_of<Node>::operation, found))
             return (home->*slot_of<Node>::render)(*this, node, data);
-        return found ? take(found(self, node, data)) : absent;
+        return call(found, node, data);
     }
 
+    // Appends the text of an operation's result and frees both.
+    outcome take(build_result *result);
+
+    enum class exhaustion : std::uint8_t { none, of_stack, of_text };
+
     bool is_outermost_;
-    bool exhausted_ = false;
+    exhaustion exhausted_ = exhaustion::none;
 };
 
 // One of several children whose texts exclude each other: the one of the lowest rank that has a
@@ -243,7 +324,7 @@ template <class Render> build_result *if_there_is_memory(Render render) {
     try {
         return render();
     } catch (const std::bad_alloc &) {
-        kept_rendering_memory.is_lacking = true;
+        rendering_memory_in_use().is_lacking = true;
         return nullptr;
     }
 }
@@ -251,17 +332,14 @@ template <class Render> build_result *if_there_is_memory(Render render) {
 // Returns a new record, never NULL.
 std::unique_ptr<build_result, freed> new_result(std::int32_t status);
 
-// The outcome of a rendering as a public operation returns it.
-build_result *finished(rendering &r, outcome result);
-
 // The body of a public operation: a rendering of one node by what is given.
 template <class Node, class Render>
 build_result *render_alone(Render render, builder *self, Node *node, void *data) {
     return if_there_is_memory([&] {
         rendering alone(self);
         if (alone.is_exhausted())
-            return finished(alone, refused_part);
-        return finished(alone, render(alone, node, data));
+            return alone.finish(refused_part);
+        return alone.finish(render(alone, node, data));
     });
 }
 

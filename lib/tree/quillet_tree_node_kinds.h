@@ -44,6 +44,21 @@ inline constexpr const node_field *fields_of[node_kind_count] = {
 #include "quillet_nodes.def"
 };
 
+// The kind of a node's type.
+template <class Node> inline constexpr node_kind kind_of = node_kind_count;
+#define NODE(kind) template <> inline constexpr node_kind kind_of<node_##kind> = kind_##kind;
+#include "quillet_nodes.def"
+
+// Visits the children that a node has, in order.
+#define NODE(kind)                                                                                 \
+    template <class Visit>                                                                         \
+    void for_each_child([[maybe_unused]] const node_##kind &node, [[maybe_unused]] Visit visit) {
+#define CHILD(kind, type, field)                                                                   \
+    if (node.field)                                                                                \
+        visit(node.field);
+#define END(kind) }
+#include "quillet_nodes.def"
+
 // The value of a field, read where its offset says.
 template <class Value> Value field_value(const void *node, const node_field &field) {
     Value value;

@@ -73,7 +73,7 @@ struct level {
 };
 
 void append_foreign(text_buffer &out, build_result *result) {
-    if (!result && kept_rendering_memory.is_lacking)
+    if (!result && rendering_memory_in_use().is_lacking)
         throw std::bad_alloc();
     const std::unique_ptr<build_result, freed> record(result);
     const std::unique_ptr<char, freed> text(record ? record->query : nullptr);
@@ -83,6 +83,7 @@ void append_foreign(text_buffer &out, build_result *result) {
 
 // Shows a tree. Texts are not shown; codes stand on lines of their own, at the margin.
 build_result *view(builder *self, node_kind kind, const void *node, void *data) {
+    const rendering_memory &memory_in_use = rendering_memory_in_use();
     text_buffer out;
     std::vector<level> memory;
     walk<level, 0> levels(memory);
@@ -94,8 +95,11 @@ build_result *view(builder *self, node_kind kind, const void *node, void *data) 
 
     show(kind, node, reinterpret_cast<std::intptr_t>(data));
     while (levels.is_down()) {
-        if (out.size() > QUILLET_TEXT_SIZE_MAXIMUM)
+        if (out.size() > memory_in_use.text_limit) {
+            if (memory_in_use.heard)
+                memory_in_use.heard->add(notices::text_too_large);
             return new_result(QUILLET_BUILD_CANNOT_RENDER).release();
+        }
         level &current = levels.last();
         const node_field &field = *current.next;
         if (field.role == field_role::end) {

@@ -40,7 +40,7 @@ outcome render_expression_with_type(rendering &r, node_expression *node, void *d
 
     const output::place begin = r.out.here();
     const output::gap beginning = r.out.leave_gap();
-    outcome result = deferred_to ? r.take(deferred_to(r.self, node, data)) : absent;
+    outcome result = r.call(deferred_to, node, data);
     if (!result.record) {
         r.out.cut(begin);
         return result;

@@ -1,0 +1,26 @@
+/*
+ * What there is to say about a part of a statement.
+ */
+#ifndef QUILLET_DIAGNOSTIC_H
+#define QUILLET_DIAGNOSTIC_H
+
+#include <stddef.h>
+#include <stdint.h>
+
+/* How much it matters. Refusals and errors are why there is no text; a refusal inside of a cast is
+   lost to the code, and the text is wrong there. */
+enum { QUILLET_NOTE, QUILLET_WARNING, QUILLET_REFUSAL, QUILLET_ERROR };
+
+/* The texts belong to the translation. */
+typedef struct quillet_diagnostic {
+    int32_t severity;
+    int32_t code;         /* of a refusal: the builder's own; otherwise 0 */
+    const char *id;       /* stable, in words: "syntax-error", "refused-initcap" */
+    const char *message;  /* one sentence */
+    const char *hint;     /* what to write instead, or NULL */
+    size_t offset;        /* bytes before the construct */
+    size_t length;        /* its bytes; 0 at the statement's end */
+    int32_t line, column; /* of its first character, from 1; a character is one of UTF-8 */
+} quillet_diagnostic;
+
+#endif
