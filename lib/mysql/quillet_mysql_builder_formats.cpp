@@ -79,7 +79,7 @@ outcome refuse_format(rendering &r, node_const_string *pattern) {
     notice what = notice_of(static_cast<std::int32_t>(reason::TO_CHAR_FORMAT));
     what.code = given;
     what.message = mysql_error_descriptions[-given];
-    return r.refuse(mysql_dialect, pattern, given, what, seen::yes);
+    return r.refuse(mysql_dialect, pattern, given, what);
 }
 
 } // namespace

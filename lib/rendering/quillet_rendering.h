@@ -204,14 +204,18 @@ public:
     // Refuses a node, with a reason of a dialect.
     template <class Node>
     outcome refuse(const dialect &home, Node *node, std::int32_t reason, seen children = seen::no) {
-        return refuse(home, node, reason, home.notice_of(reason), children);
-    }
-    template <class Node>
-    outcome refuse(const dialect &home, Node *node, std::int32_t reason, const notice &what,
-                   seen children) {
         home.keep_reason(reason);
         if (kept_.heard)
-            hear(what, node, children);
+            hear(home.notice_of(reason), node, children);
+        return refused_part;
+    }
+
+    // The same for a node whose children have been rendered, with another notice than the reason's.
+    template <class Node>
+    outcome refuse(const dialect &home, Node *node, std::int32_t reason, const notice &what) {
+        home.keep_reason(reason);
+        if (kept_.heard)
+            hear(what, node, seen::yes);
         return refused_part;
     }
 
