@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <iterator>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -38,10 +39,9 @@ void _quillet_blocks_give(quillet_blocks *list, void *block) {
 }
 
 void _quillet_blocks_give_all(quillet_blocks *list) {
-    for (void *&block : list->blocks) {
-        std::free(block);
-        block = nullptr;
-    }
+    for (void *&block : list->blocks)
+        if (block)
+            std::free(std::exchange(block, nullptr));
 }
 
 void *_quillet_take(size_t size) { return or_throw(std::malloc(size)); }

@@ -4,6 +4,7 @@
 #ifndef QUILLET_NAME_INDEX_H
 #define QUILLET_NAME_INDEX_H
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstdint>
@@ -20,6 +21,8 @@ public:
         buckets_.fill(-1);
         for (std::size_t i = 0; i < Count; ++i) {
             names_[i] = entry(names[i]);
+            shortest_ = std::min(shortest_, names[i].size());
+            longest_ = std::max(longest_, names[i].size());
             std::size_t bucket = hash(names[i]);
             while (buckets_[bucket] >= 0)
                 bucket = (bucket + 1) % bucket_count;
@@ -74,7 +77,7 @@ private:
     }
 
     template <class Wanted> constexpr int position(std::string_view name, Wanted is_wanted) const {
-        if (name.empty())
+        if (name.size() < shortest_ || name.size() > longest_)
             return -1;
         for (std::size_t bucket = hash(name); buckets_[bucket] >= 0;
              bucket = (bucket + 1) % bucket_count)
@@ -85,6 +88,8 @@ private:
 
     std::array<entry, Count> names_;
     std::array<std::int16_t, bucket_count> buckets_{};
+    std::size_t shortest_ = SIZE_MAX;
+    std::size_t longest_ = 0;
 };
 
 } // namespace quillet

@@ -9,8 +9,9 @@
  * - A token's text is a copy that the scanner hands over; it ends up in a node. A node that only
  *   carries a word to its parent (identifiers that name types, join types) is given back there.
  * - What a failed parse had built goes with the tree's memory.
- * - Two parsers are made of this grammar: one that is fast, and one with bison's locations, which
- *   keeps the place of each node in the statement. "here" is where an action's node goes.
+ * - Three parsers are made of this grammar: that of quillet_parse, which reads from the scanner of
+ *   the process; one of a statement where it stands; and the same with bison's locations, which
+ *   keeps the place of each node. "here" is where an action's node goes.
  * - Lists are left-recursive: the head of the chain holds the last item.
  * - The value of the kind k is v_k. The union of the values is plain pointers: bison lets the stacks
  *   grow from 200 to 10,000 entries in C++ only if they can be copied as bytes.
@@ -37,6 +38,7 @@
 #include "quillet_parser_values.h"
 
 struct quillet_parsing;
+struct quillet_tree_memory;
 }
 
 %code {
@@ -52,28 +54,37 @@ using namespace quillet;
 
 #ifdef QUILLET_PLACES
 
-#define here (placed_tree{parse->memory, yyloc})
+#define here (placed_tree{static_cast<tree_memory &>(*memory), yyloc})
 #define YYLLOC_DEFAULT(whole, parts, count) (whole) = place_of_all(&(parts)[0], count)
 
 static int yylex(quillet_value *value, place *where, quillet_parsing *parse) {
-    return parse->next(value, where);
+    const int token = yy_quillet_in_place_lex(value, parse->scanner);
+    *where = parse->last_token();
+    return token;
 }
 
-static void yyerror(const place *, quillet_parsing *parse, const char *message) { parse->fail(message); }
+static void yyerror(const place *, quillet_parsing *parse, quillet_tree_memory *, const char *message) { parse->fail(message); }
 
 #else
 
-#define here (parse->memory)
+#define here (static_cast<tree_memory &>(*memory))
 
-static int yylex(quillet_value *value, quillet_parsing *parse) { return parse->next(value); }
+static int yylex(quillet_value *value, quillet_parsing *parse) {
+#ifdef QUILLET_IN_PLACE
+    return yy_quillet_in_place_lex(value, parse->scanner);
+#else
+    return _quillet_query_lex(value, nullptr);
+#endif
+}
 
-static void yyerror(quillet_parsing *parse, const char *message) { parse->fail(message); }
+static void yyerror(quillet_parsing *parse, quillet_tree_memory *, const char *message) { parse->fail(message); }
 
 #endif
 }
 
 %define api.pure full
 %param {struct quillet_parsing *parse}
+%parse-param {struct quillet_tree_memory *memory}
 %define api.token.prefix {TOKEN_}
 
 %define api.value.type {union quillet_value}

@@ -36,8 +36,8 @@ void quillet_parsing::fail(const char *message) {
 
 // Parses what the scanner of the process reads, into the memory that this has.
 int yy_quillet_parse(void) {
-    quillet_parsing parsing{static_cast<tree_memory &>(*_quillet_scan.tree), _quillet_query_lex};
-    const int result = yy_quillet_tree_parse(&parsing);
+    quillet_parsing parsing;
+    const int result = run(yy_quillet_query_parse, parsing, _quillet_scan.tree);
     root = parsing.root;
     return result;
 }

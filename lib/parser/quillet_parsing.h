@@ -36,32 +36,43 @@ inline place place_before(const void *node) { return static_cast<const place *>(
 } // namespace quillet
 
 struct quillet_parsing {
-    ~quillet_parsing() { _quillet_blocks_give_all(&stack); }
-
-    quillet::tree_memory &memory;
-    int (*lex)(quillet_value *value, void *scanner);
     void *scanner = nullptr;   // of a statement where it stands; NULL: the one of quillet_parse
     quillet_blocks stack = {}; // what bison holds
     node_main *root = nullptr; // which may be complete before what follows it turns out wrong
     bool is_too_deep = false;
 
-    // The next token's code; stores its value, if it has one, and its place.
-    int next(quillet_value *value) const { return lex(value, scanner); }
-    int next(quillet_value *value, quillet::place *where) const {
-        const int token = next(value);
+    // The place of the last token in the statement.
+    quillet::place last_token() const {
         std::size_t begin = 0;
         std::size_t end = 0;
         _quillet_in_place_last_token(scanner, &begin, &end);
-        *where = {static_cast<std::uint32_t>(begin), static_cast<std::uint32_t>(end)};
-        return token;
+        return {static_cast<std::uint32_t>(begin), static_cast<std::uint32_t>(end)};
     }
 
     // Takes bison's word for why the parse has failed.
     void fail(const char *message);
 };
 
-// The parsers that bison makes: 0 for a tree, which is in the parsing's root.
-int yy_quillet_tree_parse(quillet_parsing *parse);
-int yy_quillet_places_parse(quillet_parsing *parse);
+// The parsers that bison makes: of what quillet_parse reads, of a statement where it stands, and of
+// one with the places of the nodes. They return 0 for a tree, which is in the parsing's root.
+int yy_quillet_query_parse(quillet_parsing *parse, quillet_tree_memory *memory);
+int yy_quillet_statement_parse(quillet_parsing *parse, quillet_tree_memory *memory);
+int yy_quillet_places_parse(quillet_parsing *parse, quillet_tree_memory *memory);
+
+namespace quillet {
+
+using parser = int (*)(quillet_parsing *parse, quillet_tree_memory *memory);
+
+// Runs one of them. What bison holds is given back without memory, too.
+inline int run(parser made_by_bison, quillet_parsing &parse, quillet_tree_memory *memory) {
+    try {
+        return made_by_bison(&parse, memory);
+    } catch (...) {
+        _quillet_blocks_give_all(&parse.stack);
+        throw;
+    }
+}
+
+} // namespace quillet
 
 #endif

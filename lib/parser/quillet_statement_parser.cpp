@@ -26,7 +26,7 @@ place place_of(std::size_t begin, std::size_t end) {
 class statement_parse {
 public:
     statement_parse(std::string_view statement, tree_memory &memory)
-        : text_(new char[statement.size() + 2]), parsing_{memory, yy_quillet_in_place_lex} {
+        : text_(new char[statement.size() + 2]) {
         std::memcpy(text_.get(), statement.data(), statement.size());
         text_[statement.size()] = text_[statement.size() + 1] = '\0';
         scan_.tree = &memory;
@@ -38,10 +38,10 @@ public:
     statement_parse(const statement_parse &) = delete;
     statement_parse &operator=(const statement_parse &) = delete;
 
-    parse_result run(int (*parse)(quillet_parsing *)) {
+    parse_result result_of(parser made_by_bison) {
         parsing_.scanner = _quillet_in_place_begin(&scan_, text_.get(), scan_.size);
         parse_result result;
-        if (parse(&parsing_) == 0)
+        if (run(made_by_bison, parsing_, scan_.tree) == 0)
             result.root = parsing_.root;
         else
             explain(result);
@@ -59,10 +59,7 @@ private:
             return;
         }
         result.fault = parsing_.is_too_deep ? parse_fault::too_deep : parse_fault::syntax_error;
-        std::size_t begin = 0;
-        std::size_t end = 0;
-        _quillet_in_place_last_token(parsing_.scanner, &begin, &end);
-        result.where = place_of(begin, end);
+        result.where = parsing_.last_token();
     }
 
     std::unique_ptr<char[]> text_;
@@ -73,11 +70,11 @@ private:
 } // namespace
 
 parse_result parse_statement(std::string_view statement, tree_memory &memory) {
-    return statement_parse(statement, memory).run(yy_quillet_tree_parse);
+    return statement_parse(statement, memory).result_of(yy_quillet_statement_parse);
 }
 
 parse_result parse_statement_with_places(std::string_view statement, tree_memory &memory) {
-    return statement_parse(statement, memory).run(yy_quillet_places_parse);
+    return statement_parse(statement, memory).result_of(yy_quillet_places_parse);
 }
 
 } // namespace quillet

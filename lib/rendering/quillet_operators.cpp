@@ -7,10 +7,8 @@ namespace quillet {
 
 namespace {
 
-constexpr std::string_view operator_prefix = "operator_";
-
 constexpr name_index<operator_count> operator_names({
-#define OPERATOR(name, ...) #name,
+#define OPERATOR(name, ...) "operator_" #name,
 #include "quillet_operators.def"
 });
 
@@ -137,12 +135,7 @@ outcome complete(rendering &r, operator_use use, node_expression *node, void *da
 } // namespace
 
 // The name must match to the letter, as the parser stores it.
-int operator_index(std::string_view name) {
-    if (!name.starts_with(operator_prefix))
-        return no_operator;
-    name.remove_prefix(operator_prefix.size());
-    return operator_names.find_in_lower_case(name);
-}
+int operator_index(std::string_view name) { return operator_names.find_in_lower_case(name); }
 
 bool begins_with_operand(operator_use use, const node_expression &node) {
     const operator_rule &rule = use.rule();
