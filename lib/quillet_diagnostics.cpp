@@ -116,7 +116,9 @@ void diagnostic_list::add(findings &found, std::string_view statement, const nod
         tree_memory memory;
         const tree_under_way placed(memory, tree_owner::library,
                                     std::numeric_limits<std::size_t>::max());
-        places.walk(tree, parse_statement_with_places(statement, memory).root);
+        const parse_result again = parse_statement_with_places(statement, memory);
+        if (again.root)
+            places.walk(tree, again.root);
     }
     for (const finding &each : found.list)
         add(each.what, each.node ? places(each.node) : whole(statement));

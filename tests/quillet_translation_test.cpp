@@ -278,6 +278,12 @@ TEST(Translation, ARefusalInsideOfARefusedConstructIsFound) {
                                  {"refused-initcap", "initcap(a)"}}));
 }
 
+TEST(Translation, ARefusalHasItsPlaceAtEveryDepth) {
+    const std::string deep(2000, '(');
+    EXPECT_EQ(said_of("select " + deep + "initcap(a)" + std::string(2000, ')'), mysql),
+              (std::vector<said>{{"refused-initcap", "initcap(a)"}}));
+}
+
 TEST(Translation, ARefusalHasItsSentenceItsCodeAndAHint) {
     const diagnostic refusal = only_one(translate("select initcap(a)", mysql));
     EXPECT_EQ(refusal.severity, QUILLET_REFUSAL);

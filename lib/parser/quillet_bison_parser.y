@@ -54,16 +54,19 @@ using namespace quillet;
 
 #ifdef QUILLET_PLACES
 
-#define here (placed_tree{static_cast<tree_memory &>(*memory), yyloc})
-#define YYLLOC_DEFAULT(whole, parts, count) (whole) = place_of_all(&(parts)[0], count)
+#define here (placed_tree{static_cast<tree_memory &>(*memory), place_of(yyloc)})
+#define YYLLOC_DEFAULT(whole, parts, count) (whole) = location_of_all(&(parts)[0], count)
 
-static int yylex(quillet_value *value, place *where, quillet_parsing *parse) {
+static int yylex(quillet_value *value, YYLTYPE *location, quillet_parsing *parse) {
     const int token = yy_quillet_in_place_lex(value, parse->scanner);
-    *where = parse->last_token();
+    const place where = parse->last_token();
+    *location = {0, static_cast<int>(where.begin), 0, static_cast<int>(where.end)};
     return token;
 }
 
-static void yyerror(const place *, quillet_parsing *parse, quillet_tree_memory *, const char *message) { parse->fail(message); }
+static void yyerror(const YYLTYPE *, quillet_parsing *parse, quillet_tree_memory *, const char *message) {
+    parse->fail(message);
+}
 
 #else
 

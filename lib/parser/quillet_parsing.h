@@ -16,18 +16,26 @@
 
 namespace quillet {
 
-// The place of a construct whose parts are counted from 1; before them stands the token before the
-// construct. An empty part has no place of its own.
-inline place place_of_all(const place *parts, int count) {
-    place whole{parts[0].end, parts[0].end};
-    const place *last = parts + count;
-    const auto is_empty = [](const place &part) { return part.begin == part.end; };
-    const place *first = std::find_if_not(parts + 1, last + 1, is_empty);
-    if (first > last)
-        return whole;
-    while (is_empty(*last))
-        --last;
-    return {first->begin, last->end};
+// The location of a construct whose parts are counted from 1; before them stands the token before
+// the construct. An empty part has no place of its own. Of bison's locations only the columns are
+// used, for the positions of bytes.
+template <class Location> Location location_of_all(const Location *parts, int count) {
+    const auto is_empty = [](const Location &part) {
+        return part.first_column == part.last_column;
+    };
+    const Location *end = parts + count + 1;
+    const Location *first = std::find_if_not(parts + 1, end, is_empty);
+    if (first == end)
+        return {0, parts->last_column, 0, parts->last_column};
+    do
+        --end;
+    while (is_empty(*end));
+    return {0, first->first_column, 0, end->last_column};
+}
+
+template <class Location> place place_of(const Location &location) {
+    return {static_cast<std::uint32_t>(location.first_column),
+            static_cast<std::uint32_t>(location.last_column)};
 }
 
 // The place of a node from a parse with places.
