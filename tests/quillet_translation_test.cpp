@@ -466,6 +466,17 @@ TEST(TranslationLimits, OfTheDepth) {
     EXPECT_EQ(only_one(made).length, 1U);
 }
 
+// Each of these calls would have an argument of 256 MiB.
+TEST(TranslationLimits, OfWhatIsLookedThroughForRefusals) {
+    std::string doubled = "a";
+    for (int i = 0; i < 26; ++i)
+        doubled = "(" + doubled + " is distinct from b)";
+    const std::string statement = "select " + repeated("initcap(" + doubled + "), ", 1000) + "c";
+    const translation made = translate(statement, mysql);
+    EXPECT_EQ(made->code, -3);
+    EXPECT_EQ(made->diagnostic_count, 1000U);
+}
+
 // What a call leaves behind.
 
 class TranslationState : public testing::Test {

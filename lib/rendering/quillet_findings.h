@@ -52,6 +52,8 @@ struct findings {
     std::deque<std::string> texts;
     std::int32_t reason = 0; // the last one of the builder mysql
 
+    bool is_exhausted = false; // whether no more is looked for in what is not rendered
+
     // The reasons of a host's operations, where they have some.
     std::int32_t (*host_code)() = nullptr;
     const char *(*host_description)() = nullptr;

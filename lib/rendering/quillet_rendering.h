@@ -219,19 +219,19 @@ public:
         return refused_part;
     }
 
-    // Takes note of something about a node. What is found in its children would be lost if they
-    // were not rendered.
+    // Takes note of something about a node. What is to be found in its children would be lost if
+    // they were not rendered; that ends with the first limit that it reaches.
     template <class Node> [[gnu::cold]] void hear(const notice &what, Node *node, seen children) {
         kept_.heard->add(what, node, kind_of<Node>);
-        if (children == seen::yes)
+        if (children == seen::yes || kept_.heard->is_exhausted || is_exhausted())
             return;
-        const exhaustion former = exhausted_;
         for_each_child(*node, [&](auto *unseen) {
             const output::place begin = out.here();
             child(unseen);
             out.cut(begin);
         });
-        exhausted_ = former;
+        kept_.heard->is_exhausted = is_exhausted();
+        exhausted_ = exhaustion::none;
     }
 
     // Whether a limit has been reached. Nothing more is rendered then, and the rendering fails.
