@@ -1,14 +1,12 @@
 #include <stdio.h>
-#include <stdlib.h>
+#include <string.h>
 
 #include <quillet.h>
 
 int main(void) {
-    char *text = NULL;
-    quillet_init();
+    const char *statement = "select 1 + 2";
     const int builder = quillet_get_builder_id("type_view");
-    const int code = quillet_translate_query("select 1 + 2", &text, builder);
-    puts(code == QUILLET_SUCCESS ? text : quillet_get_error_description());
-    free(text);
-    quillet_done();
+    quillet_translation *made = quillet_translate(statement, strlen(statement), builder, NULL);
+    puts(made->text ? made->text : made->diagnostics[0].message);
+    quillet_translation_free(made);
 }
