@@ -1,7 +1,6 @@
 #include "quillet_diagnostics.h"
 
 #include <algorithm>
-#include <iterator>
 #include <limits>
 
 #include "quillet_parsing.h"
@@ -122,7 +121,7 @@ void diagnostic_list::add(findings &found, std::string_view statement, const nod
     }
     for (const finding &each : found.list)
         add(each.what, each.node ? places(each.node) : whole(statement));
-    std::move(found.texts.begin(), found.texts.end(), std::back_inserter(texts_));
+    texts_of_findings_ = std::move(found.texts); // whole, as the messages point into it
 }
 
 bool diagnostic_list::explains_failure() const {

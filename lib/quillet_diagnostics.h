@@ -38,6 +38,7 @@ public:
 private:
     std::vector<quillet_diagnostic> list_;
     std::deque<std::string> texts_;
+    std::deque<std::string> texts_of_findings_;
 };
 
 // Characters of UTF-8.

@@ -114,6 +114,18 @@ std::string syntax_error_at(std::string_view token) {
                          : "syntax error at or near \"" + shown(token) + '"';
 }
 
+// What stands before a token may tell what was meant.
+const char *hint_for_syntax_error(std::string_view statement, place where) {
+    const std::string_view before = statement.substr(0, where.begin);
+    const std::string_view token = statement.substr(where.begin, where.end - where.begin);
+    if (before.ends_with('\'') && token.starts_with('\''))
+        return "write a backslash before a quote within a string";
+    const std::size_t last = before.find_last_not_of(" \t\r\n");
+    if (last != std::string_view::npos && before[last] == ';')
+        return "translate one statement at a time";
+    return nullptr;
+}
+
 // A character that cannot be printed is shown by its code.
 std::string unknown_character_of(std::string_view character) {
     const auto code = static_cast<unsigned char>(character.front());
@@ -125,6 +137,8 @@ std::string unknown_character_of(std::string_view character) {
 }
 
 const char *hint_for_unknown(std::string_view character) {
+    if (character == "\xef\xbb\xbf")
+        return "leave the byte order mark out";
     switch (character.front()) {
     case '?':
     case '$':
@@ -179,17 +193,19 @@ private:
     }
 
     void fail_to_parse(const parse_result &parsed) {
-        const notice &why = notice_of(parsed.fault);
+        notice why = notice_of(parsed.fault);
         const std::string_view token =
             statement_.substr(parsed.where.begin, parsed.where.end - parsed.where.begin);
         made_.code = parsed.fault == parse_fault::too_deep ? QUILLET_CAN_NOT_TRANSLATE
                                                            : QUILLET_INVALID_QUERY;
-        if (parsed.fault == parse_fault::syntax_error)
+        if (parsed.fault == parse_fault::syntax_error) {
+            why.hint = hint_for_syntax_error(statement_, parsed.where);
             made_.list.add(why, parsed.where, syntax_error_at(token));
-        else if (parsed.fault == parse_fault::unknown_character)
+        } else if (parsed.fault == parse_fault::unknown_character) {
             fail_at_character(parsed.where.begin);
-        else
+        } else {
             made_.list.add(why, parsed.where);
+        }
     }
 
     // The scanner knows bytes; a character may have more of them.

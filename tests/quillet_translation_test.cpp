@@ -173,6 +173,18 @@ TEST(Translation, ATokenThatIsCutIsShownAsItIsRead) {
               (std::vector<said>{{"syntax-error", "'a\\'"}}));
 }
 
+TEST(Translation, ASyntaxErrorMayHaveAHint) {
+    const auto hint = [](const char *statement) {
+        return only_one(translate(statement, mysql)).hint;
+    };
+    EXPECT_EQ(hint("select 'it''s'"), "write a backslash before a quote within a string");
+    EXPECT_EQ(hint("select 1; select 2"), "translate one statement at a time");
+    EXPECT_EQ(hint("select 1;;"), "translate one statement at a time");
+    EXPECT_EQ(hint("select 'a' 'b'"), std::nullopt);
+    EXPECT_EQ(hint("from"), std::nullopt);
+    EXPECT_EQ(hint("\xef\xbb\xbfselect 1"), "leave the byte order mark out");
+}
+
 struct unknown {
     std::string_view statement;
     const char *message;
@@ -664,7 +676,7 @@ TEST_F(TranslationState, AHostsFailureHasItsPlace) {
 }
 
 int32_t reason_of_host() { return -1234; }
-const char *description_of_host() { return "the host has a reason"; }
+const char *description_of_host() { return "host says no"; }
 
 TEST_F(TranslationState, AHostsReasonIsItsOwn) {
     const hosted_columns host(refusing);
@@ -674,7 +686,7 @@ TEST_F(TranslationState, AHostsReasonIsItsOwn) {
     quillet_mysql_builder_info.get_error_code = quillet_mysql_get_error_code;
     quillet_mysql_builder_info.get_error_description = quillet_mysql_get_error_description;
     EXPECT_EQ(refusal.code, -1234);
-    EXPECT_EQ(refusal.message, "the host has a reason");
+    EXPECT_EQ(refusal.message, "host says no");
 }
 
 build_result *looking(builder *, node_column_reference *, void *) {
