@@ -21,6 +21,7 @@
 
 #include "host_builder.h"
 #include "quillet_parser.h"
+#include "translation_checks.h"
 
 extern "C" {
 int yy_quillet_lex_destroy(void);
@@ -203,6 +204,25 @@ translation translate(const std::string &statement, const std::string &builder) 
     return result;
 }
 
+// What quillet_translate makes, which must print nothing, and leave what the classic calls left.
+quillet_tests::owned_translation translate_freely(const std::string &statement,
+                                                  const std::string &builder) {
+    const std::string description = quillet_get_error_description();
+    const int detail = quillet_get_detailed_error_code();
+    const int depth = quillet_comment_count;
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    translating = true;
+    auto made = quillet_tests::translated(statement, quillet_get_builder_id(builder.c_str()));
+    translating = false;
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(quillet_get_error_description(), description);
+    EXPECT_EQ(quillet_get_detailed_error_code(), detail);
+    EXPECT_EQ(quillet_comment_count, depth);
+    return made;
+}
+
 // Runs a translation that ends the process, with its standard output where the test sees it.
 [[noreturn]] void translate_to_the_end(const std::string &statement, const std::string &builder) {
     reset_library();
@@ -210,6 +230,36 @@ translation translate(const std::string &statement, const std::string &builder) 
     char *output = nullptr;
     quillet_translate_query(statement.c_str(), &output, quillet_get_builder_id(builder.c_str()));
     std::_Exit(EXIT_FAILURE);
+}
+
+constexpr std::string_view ending = "exit 0";
+
+// What a section says: the code, which is that of an invalid query where the classic call ends the
+// process; the text; the builder's reason; and whether a token does not fit.
+
+int code_of(const section &expected) {
+    if (expected.outcome == ending)
+        return QUILLET_INVALID_QUERY;
+    return expected.outcome.empty() ? QUILLET_SUCCESS : std::stoi(expected.outcome);
+}
+
+std::string text_of(const section &expected, const std::string &builder) {
+    if (!expected.outcome.empty())
+        return "";
+    const bool own_newline = builder == "tree";
+    return own_newline ? expected.body : without_final_newline(expected.body);
+}
+
+int detail_of(const section &expected) {
+    constexpr std::string_view heading = "detail ";
+    const std::size_t found =
+        expected.outcome.empty() ? std::string::npos : expected.body.find(heading);
+    return found == std::string::npos ? 0 : std::stoi(expected.body.substr(found + heading.size()));
+}
+
+bool is_syntax_error(const section &expected) {
+    return !expected.outcome.empty() &&
+           expected.body.find("Error: syntax error\n") != std::string::npos;
 }
 
 class golden_test : public testing::Test {
@@ -230,7 +280,16 @@ public:
 
 private:
     void check(const section &expected, const std::string &builder) {
-        if (expected.outcome == "exit 0") {
+        check_classic(expected, builder);
+        check_free(expected, builder);
+        SCOPED_TRACE("through a host's operations");
+        quillet_init(); // which a host calls before it changes a builder
+        const quillet_tests::hosted host(quillet_get_builder_id(builder.c_str()));
+        check_free(expected, builder);
+    }
+
+    void check_classic(const section &expected, const std::string &builder) {
+        if (expected.outcome == ending) {
             EXPECT_EXIT(translate_to_the_end(tested.statement, builder),
                         testing::ExitedWithCode(EXIT_SUCCESS), testing::StrEq(expected.body));
             return;
@@ -244,10 +303,25 @@ private:
         const bool success = expected.outcome.empty();
         EXPECT_EQ(actual.outcome, expected.outcome);
         EXPECT_EQ(actual.printed, success ? tested.printed : expected.body);
-        if (!success)
-            return;
-        const bool own_newline = builder == "tree";
-        EXPECT_EQ(actual.text, own_newline ? expected.body : without_final_newline(expected.body));
+        if (success) {
+            EXPECT_EQ(actual.text, text_of(expected, builder));
+        }
+    }
+
+    // Checks quillet_translate against what the section says of the classic call.
+    void check_free(const section &expected, const std::string &builder) {
+        const auto made = translate_freely(tested.statement, builder);
+        SCOPED_TRACE("quillet_translate: " + quillet_tests::shown(*made));
+        EXPECT_STREQ(quillet_tests::fault_of(*made, tested.statement), nullptr);
+        EXPECT_EQ(made->code, code_of(expected));
+        EXPECT_EQ(quillet_tests::is_unscannable(*made), expected.outcome == ending);
+        EXPECT_EQ(quillet_tests::has_id(*made, "syntax-error"), is_syntax_error(expected));
+        if (const int detail = detail_of(expected)) {
+            EXPECT_TRUE(quillet_tests::has_diagnostic(*made, [&](const quillet_diagnostic &each) {
+                return each.severity == QUILLET_REFUSAL && each.code == detail;
+            }));
+        }
+        EXPECT_EQ(made->text ? made->text : "", text_of(expected, builder));
     }
 
     const golden_case &tested;
