@@ -1,5 +1,6 @@
 #include "quillet_statement_parser.h"
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 
@@ -27,11 +28,11 @@ class statement_parse {
 public:
     statement_parse(std::string_view statement, tree_memory &memory)
         : text_(new char[statement.size() + 2]) {
-        std::memcpy(text_.get(), statement.data(), statement.size());
-        text_[statement.size()] = text_[statement.size() + 1] = '\0';
         scan_.tree = &memory;
         scan_.text = text_.get();
-        scan_.size = std::strlen(text_.get());
+        scan_.size = std::min(statement.find('\0'), statement.size());
+        std::memcpy(text_.get(), statement.data(), scan_.size);
+        text_[scan_.size] = text_[scan_.size + 1] = '\0';
         scan_.is_cut = scan_.size < statement.size() ? 1 : 0;
     }
     ~statement_parse() { _quillet_in_place_end(&scan_); }
