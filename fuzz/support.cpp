@@ -1,38 +1,40 @@
 #include "support.h"
 
-#include <csetjmp>
+#include <sys/mman.h>
+#include <unistd.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
-#include "quillet_parser.h"
-#include "quillet_parser_tools.h"
-#include "quillet_tree_node.h"
-
-#include "quillet_bison_parser.h"
+#include "quillet_scanner.h"
 
 extern "C" {
 
-int yy_quillet_lex_destroy(void);
 [[noreturn]] void __real_exit(int status);
 [[noreturn]] void __wrap_exit(int status);
 
-// What the parser prints is not looked at.
-int LLVMFuzzerInitialize(int *, char ***) { return std::freopen("/dev/null", "w", stdout) ? 0 : 1; }
+// What is printed goes to a file in memory, by whatever way it is printed.
+int LLVMFuzzerInitialize(int *, char ***) {
+    const int file = memfd_create("standard output", 0);
+    return dup2(file, STDOUT_FILENO) == STDOUT_FILENO ? 0 : 1;
+}
 }
 
 namespace {
 
-std::jmp_buf scanning;
-bool is_scanning = false;
+bool is_end_thrown = false;
 
 } // namespace
 
 void __wrap_exit(int status) {
-    if (is_scanning)
-        std::longjmp(scanning, 1);
+    if (is_end_thrown)
+        throw process_ended();
     __real_exit(status);
 }
+
+ends_are_thrown::ends_are_thrown() { is_end_thrown = true; }
+ends_are_thrown::~ends_are_thrown() { is_end_thrown = false; }
 
 void require(bool holds, const char *what) {
     if (holds)
@@ -46,26 +48,13 @@ std::string text_of(const std::uint8_t *data, std::size_t size) {
     return {begin, strnlen(begin, size)};
 }
 
-void reset_scanner() {
-    yy_quillet_lex_destroy();
-    quillet_comment_count = 0;
-}
+void reset_scanner() { _quillet_scanner_reset(); }
 
-bool can_be_scanned(const std::string &statement) {
-    reset_scanner();
-    quillet_query = _quillet_parse_data_create(statement.c_str());
-    is_scanning = true;
-    volatile bool whole = false;
-    if (setjmp(scanning) == 0) {
-        while (const int token = yy_quillet_lex())
-            if (token == TOKEN_IDENTIFIER || token == TOKEN_STRING || token == TOKEN_INTEGER ||
-                token == TOKEN_FLOAT || token == TOKEN_CURRENT_DATETIME)
-                std::free(yy_quillet_lval.v_string);
-        whole = true;
-    }
-    is_scanning = false;
-    _quillet_parse_data_free(quillet_query);
-    quillet_query = nullptr;
-    reset_scanner();
-    return whole;
+std::string take_print() {
+    std::fflush(stdout);
+    const off_t size = lseek(STDOUT_FILENO, 0, SEEK_CUR);
+    std::string printed(static_cast<std::size_t>(size), '\0');
+    require(pread(STDOUT_FILENO, printed.data(), printed.size(), 0) == size, "no print to read");
+    lseek(STDOUT_FILENO, 0, SEEK_SET);
+    return printed;
 }

@@ -12,11 +12,23 @@ void require(bool holds, const char *what);
 // The input as a text: what stands before its first NUL.
 std::string text_of(const std::uint8_t *data, std::size_t size);
 
-// Puts the scanner of statements back into its first state.
+// Puts the scanner of statements back into its first state, also after the end of a process.
 void reset_scanner();
 
-// Whether a statement can be scanned to its end. One with an unknown character would end the
-// process; the scanner's call of exit is intercepted here, where no node or text is left behind.
-bool can_be_scanned(const std::string &statement);
+// What has been printed on standard output since the last call of this.
+std::string take_print();
+
+// Thrown where the library would have ended the process.
+struct process_ended {};
+
+// While one lives, an end of the process is thrown; everything that the call had taken is freed on
+// the way.
+class ends_are_thrown {
+public:
+    ends_are_thrown();
+    ~ends_are_thrown();
+    ends_are_thrown(const ends_are_thrown &) = delete;
+    ends_are_thrown &operator=(const ends_are_thrown &) = delete;
+};
 
 #endif
