@@ -58,13 +58,13 @@ void tree_memory::free_all(std::vector<void *> &blocks) {
 
 void tree_memory::begin(tree_owner owner, std::size_t limit) {
     left_ = limit;
+    owner_ = owner;
 #ifndef QUILLET_WITHOUT_ARENA
     if (owner == tree_owner::library) {
         state_ = state::arena;
         return;
     }
 #endif
-    static_cast<void>(owner);
     state_ = state::blocks;
     is_incomplete_ = false;
 }
@@ -84,11 +84,12 @@ bool tree_memory::keep() {
     return true;
 }
 
-// What is given is freed later, so that none of it comes twice.
+// What is given by a host's tree is freed later, so that none of it comes twice; the library's goes
+// all at once.
 void tree_memory::give(void *room) {
     if (state_ == state::no_tree)
         std::free(room);
-    if (state_ != state::blocks)
+    if (state_ != state::blocks || owner_ == tree_owner::library)
         return;
     try {
         given_.push_back(room);

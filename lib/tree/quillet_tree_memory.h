@@ -98,6 +98,7 @@ private:
     void end_arena();
 
     state state_ = state::no_tree;
+    tree_owner owner_ = tree_owner::library;
     bool is_incomplete_ = false;  // whether there was no memory for one of the given blocks
     std::size_t left_ = 0;        // of the limit, besides what is free in the chunk in use
     std::size_t made_chunks_ = 0; // those with memory are among the first so many
