@@ -4,115 +4,19 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
-#include <new>
 #include <string>
-#include <vector>
 
+#include "fixture.h"
 #include "host_builder.h"
 #include "quillet.h"
 #include "quillet_date_format_parser.h"
 #include "quillet_parser.h"
 #include "quillet_strings_tools.h"
 #include "quillet_tree_view_builder.h"
+#include "statements.h"
+#include "watch.h"
 
-// The linker gives the names.
-// NOLINTBEGIN(bugprone-reserved-identifier)
-
-extern "C" {
-int yy_quillet_lex_destroy(void);
-void *__real_malloc(std::size_t size);
-void *__real_calloc(std::size_t count, std::size_t size);
-void *__real_realloc(void *block, std::size_t size);
-void *__real_aligned_alloc(std::size_t alignment, std::size_t size);
-void __real_free(void *block);
-}
-
-namespace {
-
-// While the library is watched its blocks are counted, and one allocation may fail.
-volatile bool is_watching = false; // which the compiler thinks that free does not look at
-long live_blocks = 0;
-long allocations = 0;
-long failing_allocation = 0; // the number of the one that fails, 0 for none
-bool has_failed = false;
-
-bool is_allowed() {
-    if (!is_watching)
-        return true;
-    if (++allocations != failing_allocation)
-        return true;
-    has_failed = true;
-    return false;
-}
-
-void *counted(void *block) {
-    if (is_watching && block)
-        ++live_blocks;
-    return block;
-}
-
-void discount(const void *block) {
-    if (is_watching && block)
-        --live_blocks;
-}
-
-// Watches a call of the library, in which one allocation fails.
-template <class Call> auto watched(Call call, long failing = 0) {
-    is_watching = true;
-    allocations = 0;
-    failing_allocation = failing;
-    has_failed = false;
-    auto result = call();
-    is_watching = false;
-    return result;
-}
-
-} // namespace
-
-extern "C" {
-
-void *__wrap_malloc(std::size_t size) {
-    return is_allowed() ? counted(__real_malloc(size)) : nullptr;
-}
-
-void *__wrap_calloc(std::size_t count, std::size_t size) {
-    return is_allowed() ? counted(__real_calloc(count, size)) : nullptr;
-}
-
-void *__wrap_realloc(void *block, std::size_t size) {
-    if (!is_allowed())
-        return nullptr;
-    void *moved = __real_realloc(block, size);
-    return block ? moved : counted(moved);
-}
-
-void *__wrap_aligned_alloc(std::size_t alignment, std::size_t size) {
-    return is_allowed() ? counted(__real_aligned_alloc(alignment, size)) : nullptr;
-}
-
-void __wrap_free(void *block) {
-    discount(block);
-    __real_free(block);
-}
-}
-
-void *operator new(std::size_t size) {
-    void *block = is_allowed() ? counted(__real_malloc(size)) : nullptr;
-    if (!block)
-        throw std::bad_alloc();
-    return block;
-}
-
-void operator delete(void *block) noexcept {
-    discount(block);
-    __real_free(block);
-}
-
-void operator delete(void *block, std::size_t) noexcept { operator delete(block); }
-
-// NOLINTEND(bugprone-reserved-identifier)
+using namespace quillet_tests;
 
 namespace {
 
@@ -130,65 +34,12 @@ translation translate(const std::string &statement, int id, long failing = 0) {
         watched([&] { return quillet_translate_query(statement.c_str(), &output, id); }, failing);
     const translation result{code, output ? output : "none",
                              testing::internal::GetCapturedStdout()};
-    is_watching = true;
-    std::free(output);
-    is_watching = false;
+    watched_on([&] { std::free(output); });
     return result;
 }
 
-// As at the beginning of the process.
-void forget() {
-    watched([] {
-        yy_quillet_lex_destroy();
-        quillet_release_memory();
-        return 0;
-    });
-}
-
-std::string repeated(const std::string &text, int count) {
-    std::string result;
-    for (int i = 0; i < count; ++i)
-        result += text;
-    return result;
-}
-
-std::vector<std::string> statements() {
-    std::ifstream file(STATEMENTS);
-    const std::string text(std::istreambuf_iterator<char>(file), {});
-    std::vector<std::string> found;
-    for (std::size_t begin = 0, end = 0; (end = text.find(';', begin)) != std::string::npos;
-         begin = end + 1)
-        found.push_back(text.substr(begin, end + 1 - begin));
-    return found;
-}
-
-// What makes each of the library's memories grow.
-std::vector<std::string> large_statements() {
-    return {
-        "select " + repeated("a, ", 3000) + "b from t",
-        "select " + repeated("a + ", 3000) + "b",
-        "select " + repeated("(", 500) + "a" + repeated(")", 500),
-        "select " + repeated("f(", 300) + "a" + repeated(")", 300),
-        "select '" + repeated("a", 100000) + "'",
-        "select to_char(timestamp '2005-01-01', '" + repeated("YYYY-DD \"text\" ", 30) + "')",
-        "select a is distinct from b || 'c', a is true, timestamp 'x' at time zone 'y' from t",
-        "select double precision 'x' + cast(a as int) from t where b = c",
-        "select date_trunc('month', d), ltrim(s, 'x'), overlay(a placing b from 1 for 2) from t",
-        "select case when a then b else c end from t natural join u limit 1 offset 2",
-        "insert into t (a, b) values (1, default)",
-    };
-}
-
-class Memory : public testing::Test {
+class Classic : public Memory {
 protected:
-    void SetUp() override {
-        quillet_init();
-        forget();
-        live_blocks = 0;
-    }
-
-    void TearDown() override { forget(); }
-
     // Lets each allocation of a translation fail, or where there are thousands, as without an
     // arena, some hundred of them. Returns how many there are.
     static long fail_each(const std::string &statement, int id) {
@@ -212,13 +63,13 @@ protected:
     }
 };
 
-TEST_F(Memory, LacksForUsualStatements) {
-    for (const std::string &statement : statements())
+TEST_F(Classic, LacksForUsualStatements) {
+    for (const std::string &statement : usual_statements())
         for (int id = 0; id < quillet_get_builder_count(); ++id)
             EXPECT_GE(fail_each(statement, id), 8) << statement;
 }
 
-TEST_F(Memory, LacksForLargeStatements) {
+TEST_F(Classic, LacksForLargeStatements) {
     for (const std::string &statement : large_statements())
         for (int id = 0; id < quillet_get_builder_count(); ++id)
             EXPECT_GE(fail_each(statement, id), 8) << statement.substr(0, 60);
