@@ -79,7 +79,7 @@ constinit const dialect quillet::postgresql_dialect = {
 };
 
 builder *quillet_default_builder_create(void) {
-    auto *created = static_cast<builder *>(std::malloc(sizeof(builder)));
+    auto *created = made_or_lacking(static_cast<builder *>(std::malloc(sizeof(builder))));
     if (created)
         *created = postgresql_dialect.operations;
     return created;

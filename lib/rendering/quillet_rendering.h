@@ -333,6 +333,14 @@ template <class Render> build_result *if_there_is_memory(Render render) {
     }
 }
 
+// Returns a builder that has been made. Where there was no memory for one it is NULL, of which the
+// translation takes note, whatever a host's constructor makes of that.
+inline builder *made_or_lacking(builder *made) {
+    if (!made)
+        rendering_memory_in_use().is_lacking = true;
+    return made;
+}
+
 // Returns a new record, never NULL.
 std::unique_ptr<build_result, freed> new_result(std::int32_t status);
 

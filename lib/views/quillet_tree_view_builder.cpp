@@ -152,7 +152,7 @@ char *quillet_print(int indentation, const char *label, int number) {
 #include "quillet_nodes.def"
 
 builder *quillet_tree_view_builder_create(void) {
-    auto *created = static_cast<builder *>(std::calloc(1, sizeof(builder)));
+    auto *created = made_or_lacking(static_cast<builder *>(std::calloc(1, sizeof(builder))));
     if (!created)
         return nullptr;
 #define NODE(kind) created->build_##kind = quillet_##kind##_tree_view;

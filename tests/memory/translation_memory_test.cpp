@@ -43,6 +43,14 @@ std::vector<std::string> failing_statements() {
     };
 }
 
+std::vector<std::string> hosted_statements() {
+    return {
+        "select a + 1, upper(b), case when c then 'd' end from t order by b desc limit 3",
+        "select initcap(a), cast(b as real) from t where c between 1 and 2 limit 1 offset 2",
+        "select cast(b as date) from t where ltrim() = to_hex(c)",
+    };
+}
+
 owned_translation translate(std::string_view statement, int id, long failing = 0) {
     return owned_translation(
         watched([&] { return quillet_translate(statement.data(), statement.size(), id, nullptr); },
@@ -120,6 +128,15 @@ TEST_F(Translation, LacksForWhatFails) {
         for (int id = 0; id < quillet_get_builder_count(); ++id)
             EXPECT_GE(fail_each(statement, id), 6) << statement.substr(0, 60);
     EXPECT_GE(fail_each("select a", quillet_get_builder_count()), 2);
+}
+
+// What a host's operations get in between is NULL, and the whole fails all the same.
+TEST_F(Translation, LacksForTheOperationsOfAHost) {
+    for (const std::string &statement : hosted_statements())
+        for (int id = 0; id < quillet_get_builder_count(); ++id) {
+            const hosted host(id);
+            EXPECT_GE(fail_each(statement, id), 50) << statement;
+        }
 }
 
 // To free what a syntax error leaves of a tree for a host may do without, and then the error
