@@ -1,0 +1,114 @@
+"""Runs one statement and its texts, and says what became of each text."""
+
+from collections import namedtuple
+
+from rows import Answer, Comparison, is_ordered, tie_groups
+from sessions import Failure
+from values import DIFFERS, SAME, shape
+
+REFUSED, REJECTED, INVALID = "refused", "rejected", "invalid"
+OUTCOMES = (SAME, "otherwise", REFUSED, REJECTED, DIFFERS, INVALID)
+BUILDERS = ("postgresql", "mysql")
+
+SAMPLE_LENGTH = 70
+
+# detail: how it is written otherwise, the code of a refusal, the server's error, or the two samples.
+# says: the ids of the diagnostics, each with its severity. text: the library's.
+Result = namedtuple("Result", "outcome detail says text")
+
+
+def is_wrong(result):
+    return result.outcome in (DIFFERS, REJECTED)
+
+
+def is_announced(result):
+    return any(said.severity in ("note", "warning", "refusal") for said in result.says)
+
+
+def is_warned(result):
+    return any(said.severity in ("note", "warning") for said in result.says)
+
+
+class Trials:
+    def __init__(self, library, postgresql, mariadb):
+        self._library = library
+        self._sessions = {"postgresql": postgresql, "mysql": mariadb}
+        self._postgresql, self._mariadb = postgresql, mariadb
+
+    def run(self, statement, is_volatile=False):
+        """The results by builder. Of volatile values only what they look like is compared."""
+        self._mariadb.pin_clock(not is_volatile)
+        original = self._attempt(self._postgresql, statement)
+        groups = None
+        if isinstance(original, Answer) and not is_volatile and is_ordered(statement):
+            groups = self._tie_groups(statement, original)
+        our_kinds = original.kinds if is_volatile and isinstance(original, Answer) else None
+        if our_kinds:
+            original = _shapes(original, our_kinds)
+        results = {}
+        for builder in BUILDERS:
+            made = self._library.translate(statement, builder)
+            outcome, detail = self._judge(original, made, builder, groups, our_kinds)
+            results[builder] = Result(outcome, detail, made.says, made.text)
+        return results
+
+    def _judge(self, original, made, builder, groups, our_kinds):
+        if isinstance(original, Failure) and not original.is_of_values:
+            return INVALID, _shortened(str(original))
+        if made.text is None:
+            return REFUSED, f"code {made.code}"
+        answer = self._attempt(self._sessions[builder], made.text)
+        if our_kinds:
+            answer = _shapes(answer, our_kinds)
+        if isinstance(answer, Failure):
+            if isinstance(original, Failure) and answer.is_of_values:
+                return SAME, "an error in both"
+            return REJECTED, _shortened(str(answer))
+        if isinstance(original, Failure):
+            sample = _sample(answer.rows[0]) if answer.rows else "no row"
+            return DIFFERS, f"{_shortened(str(original))} but {sample}"
+        comparison = Comparison(original, answer, groups)
+        if comparison.first:
+            return DIFFERS, _both(comparison)
+        return comparison.outcome, ", ".join(comparison.how) or None
+
+    def _tie_groups(self, statement, original):
+        try:
+            width = len(original.kinds)
+            return tie_groups(statement, width, lambda text: self._postgresql.ask(text).rows)
+        except Failure:
+            return [(i, i + 1, [row]) for i, row in enumerate(original.rows)]
+
+    @staticmethod
+    def _attempt(session, text):
+        try:
+            return session.ask(text)
+        except Failure as failure:
+            return failure
+
+
+def _shapes(answer, our_kinds):
+    if isinstance(answer, Failure) or len(answer.kinds) != len(our_kinds):
+        return answer
+    return Answer([tuple(map(shape, row, our_kinds)) for row in answer.rows], ["text"] * len(our_kinds))
+
+
+def _shortened(text, length=SAMPLE_LENGTH * 2):
+    text = "".join(c if c.isprintable() else c.encode("unicode_escape").decode() for c in text)
+    return text if len(text) <= length else text[: length - 3] + "..."
+
+
+def _sample(row):
+    if isinstance(row, str):
+        return row
+    return _shortened("(" + ", ".join("NULL" if v is None else f"'{v}'" for v in row) + ")")
+
+
+def _both(comparison):
+    """The two rows; of long ones only the first column and those that are not alike."""
+    ours, theirs = comparison.first
+    if isinstance(ours, tuple) and isinstance(theirs, tuple) and len(ours) == len(theirs) > 3:
+        keep = sorted({0, *comparison.differing_columns()})
+        ours = tuple(ours[i] for i in keep)
+        theirs = tuple(theirs[i] for i in keep)
+    return f"{_sample(ours)} but {_sample(theirs)}"

@@ -1,0 +1,76 @@
+"""Runs the corpus on PostgreSQL and MariaDB; truth/run installs and builds first and starts this."""
+
+import argparse
+import os
+import signal
+import sys
+
+import corpus
+import pairs
+import results
+import servers
+import sessions
+from quillet import Library
+from report import Report
+from trial import Trials
+
+LIBRARY = os.path.join("build", "truth", "lib", "libquillet.so")
+
+
+def arguments():
+    parser = argparse.ArgumentParser(
+        prog="truth/run",
+        description="Runs statements on PostgreSQL and our texts of them on PostgreSQL and MariaDB, and "
+        "fails if a text gives something else without a word, or if a recorded outcome has changed.",
+    )
+    parser.add_argument("families", nargs="*", help="of truth/corpus; all of them if none is named")
+    parser.add_argument("--settings", choices=servers.SETTINGS, default="default", help="of MariaDB")
+    parser.add_argument("--update", action="store_true", help="write the outcomes to truth/results")
+    parser.add_argument(
+        "--allow-silent", action="store_true", help="only count what is wrong without a word"
+    )
+    parser.add_argument("--show", type=int, default=10, help="so many of each failure (%(default)s)")
+    parser.add_argument("--dump", metavar="FILE", help="write every result with its text there, as JSON")
+    parser.add_argument(
+        "--pairs", action="store_true", help="write truth/corpus/pairs.sql anew, and end"
+    )
+    return parser.parse_args()
+
+
+def interrupted(*_):
+    raise KeyboardInterrupt
+
+
+def main():
+    options = arguments()
+    unknown = set(options.families) - set(corpus.families())
+    if unknown:
+        raise SystemExit(f"truth/run: no such family: {', '.join(sorted(unknown))}")
+
+    sys.stdout.reconfigure(encoding="utf-8")
+    library = Library(LIBRARY)
+    report = Report()
+    signal.signal(signal.SIGTERM, interrupted)
+    with servers.Servers(options.settings) as running:
+        postgresql = sessions.PostgreSQL(running)
+        if options.pairs:
+            pairs.write(library, postgresql)
+            return 0
+        trials = Trials(library, postgresql, sessions.MariaDB(running))
+        for family in options.families or corpus.families():
+            is_volatile = family == corpus.VOLATILE
+            made = {text: trials.run(text, is_volatile) for text in corpus.statements(family)}
+            blocks = {text: results.block(made[text]) for text in made}
+            report.add(family, made, blocks, results.recorded(family, options.settings))
+            if options.update:
+                results.write(family, options.settings, blocks)
+    if options.dump:
+        report.dump(options.dump)
+    report.print_table()
+    return 0 if report.print_failures(options) else 1
+
+
+try:
+    sys.exit(main())
+except KeyboardInterrupt:
+    sys.exit("truth/run: interrupted")
