@@ -92,9 +92,13 @@ void translate(const std::string &statement, int builder_id, int code = QUILLET_
     const std::unique_ptr<char, freed> owned(output);
 }
 
-void translate_freely(const std::string &statement, int builder_id, int code = QUILLET_SUCCESS) {
+void translate_freely(const std::string &statement, int builder_id, int code = QUILLET_SUCCESS,
+                      int least_severity = QUILLET_REFUSAL) {
+    quillet_options options{};
+    options.size = sizeof options;
+    options.least_severity = least_severity;
     quillet_translation *made =
-        quillet_translate(statement.data(), statement.size(), builder_id, nullptr);
+        quillet_translate(statement.data(), statement.size(), builder_id, &options);
     if (made->code != code)
         std::abort();
     quillet_translation_free(made);
@@ -195,6 +199,12 @@ void register_benchmarks() {
         benchmark::RegisterBenchmark(("translate/" + name).c_str(), [=](benchmark::State &state) {
             measure(state, statements, [&](const std::string &text) { translate(text, id); });
         });
+        benchmark::RegisterBenchmark(
+            ("quillet_translate/remarks/" + name).c_str(), [=](benchmark::State &state) {
+                measure(state, statements, [&](const std::string &text) {
+                    translate_freely(text, id, QUILLET_SUCCESS, QUILLET_NOTE);
+                });
+            });
         benchmark::RegisterBenchmark(
             ("quillet_translate/" + name).c_str(), [=](benchmark::State &state) {
                 measure(state, statements,

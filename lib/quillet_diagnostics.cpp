@@ -76,6 +76,12 @@ private:
     std::vector<placed_node> wanted_;
 };
 
+// Whether a word stands before a string that is no type's.
+bool has_lost_word(const node_const_generic &literal) {
+    return literal.const_string && literal.type == QUILLET_TYPE_UNKNOWN &&
+           place_before(&literal).begin < place_before(literal.const_string).begin;
+}
+
 } // namespace
 
 std::string_view character_at(std::string_view text, std::size_t position) {
@@ -109,19 +115,41 @@ void diagnostic_list::add(const notice &what, place where, std::string message) 
     add(own, where);
 }
 
-void diagnostic_list::add(findings &found, std::string_view statement, const node_main *tree) {
+template <class PlaceOf>
+void diagnostic_list::add(findings &found, std::string_view statement, PlaceOf place_of) {
+    for (const finding &each : found.list)
+        add(each.what, each.node ? place_of(each.node) : whole(statement));
+    texts_of_findings_ = std::move(found.texts); // whole, as the messages point into it
+}
+
+void diagnostic_list::add_lost_types(const notice &what, const node_main *tree_with_places) {
+    visit_tree(tree_with_places, kind_main, [&](const void *node, node_kind kind) {
+        if (kind == kind_const_generic)
+            if (has_lost_word(*static_cast<const node_const_generic *>(node)))
+                add(what, place_before(node));
+        return true;
+    });
+}
+
+void diagnostic_list::add(findings &found, std::string_view statement, const parse_result &parsed,
+                          const notice *lost_type) {
+    if (parsed.has_places) {
+        if (lost_type)
+            add_lost_types(*lost_type, parsed.root);
+        return add(found, statement, place_before);
+    }
     place_finder places(found.list, whole(statement));
-    if (places.is_needed()) {
+    if (places.is_needed() || lost_type) {
         tree_memory memory;
         const tree_under_way placed(memory, tree_owner::library,
                                     std::numeric_limits<std::size_t>::max());
-        const parse_result again = parse_statement_with_places(statement, memory);
-        if (again.root)
-            places.walk(tree, again.root);
+        const node_main *again = parse_statement_with_places(statement, memory).root;
+        if (again)
+            places.walk(parsed.root, again);
+        if (again && lost_type)
+            add_lost_types(*lost_type, again);
     }
-    for (const finding &each : found.list)
-        add(each.what, each.node ? places(each.node) : whole(statement));
-    texts_of_findings_ = std::move(found.texts); // whole, as the messages point into it
+    add(found, statement, [&](const void *node) { return places(node); });
 }
 
 bool diagnostic_list::explains_failure() const {
@@ -130,7 +158,9 @@ bool diagnostic_list::explains_failure() const {
     });
 }
 
-void diagnostic_list::finish(std::string_view statement) {
+void diagnostic_list::finish(std::string_view statement, std::int32_t least_severity) {
+    std::erase_if(list_,
+                  [&](const quillet_diagnostic &each) { return each.severity < least_severity; });
     std::stable_sort(list_.begin(), list_.end(),
                      [](const quillet_diagnostic &a, const quillet_diagnostic &b) {
                          return a.offset < b.offset;

@@ -4,13 +4,14 @@
 #ifndef QUILLET_DIAGNOSTICS_H
 #define QUILLET_DIAGNOSTICS_H
 
-#include <deque>
+#include <list>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "quillet_findings.h"
 #include "quillet_parser_values.h"
+#include "quillet_statement_parser.h"
 #include "quillet_tree_node.h"
 
 namespace quillet {
@@ -23,22 +24,28 @@ public:
     // The same with a message of its own.
     void add(const notice &what, place where, std::string message);
 
-    // Adds what was found in a statement's tree. The places are those of the nodes: the statement
-    // is parsed once more for them.
-    void add(findings &found, std::string_view statement, const node_main *tree);
+    // Adds what was found in a statement's tree, and unless it is NULL what is to be said of each
+    // word before a string that names no type. The places are those of the nodes: if the tree has
+    // none, the statement is parsed once more for them.
+    void add(findings &found, std::string_view statement, const parse_result &parsed,
+             const notice *lost_type);
 
     // Whether something in it explains why there is no text.
     bool explains_failure() const;
 
-    // Puts all in the order of their places, and counts lines and columns.
-    void finish(std::string_view statement);
+    // Puts all that matter in the order of their places, and counts lines and columns.
+    void finish(std::string_view statement, std::int32_t least_severity);
 
     std::vector<quillet_diagnostic> &all() { return list_; }
 
 private:
+    template <class PlaceOf>
+    void add(findings &found, std::string_view statement, PlaceOf place_of);
+    void add_lost_types(const notice &what, const node_main *tree_with_places);
+
     std::vector<quillet_diagnostic> list_;
-    std::deque<std::string> texts_;
-    std::deque<std::string> texts_of_findings_;
+    std::list<std::string> texts_;
+    std::list<std::string> texts_of_findings_;
 };
 
 // Characters of UTF-8.

@@ -7,6 +7,7 @@
 #include <new>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "quillet.h"
 #include "quillet_build_result.h"
@@ -29,8 +30,8 @@ struct owned_translation : quillet_translation {
     owned_translation(const owned_translation &) = delete;
     owned_translation &operator=(const owned_translation &) = delete;
 
-    void finish(std::string_view statement) {
-        list.finish(statement);
+    void finish(std::string_view statement, std::int32_t least_severity) {
+        list.finish(statement, least_severity);
         diagnostic_count = list.all().size();
         diagnostics = diagnostic_count ? list.all().data() : nullptr;
     }
@@ -70,10 +71,12 @@ struct limits {
             text = std::min(text, known.text_limit);
         if (known.tree_limit)
             tree = std::min(tree, known.tree_limit);
+        least_severity = known.least_severity;
     }
 
     std::size_t text = QUILLET_TEXT_SIZE_MAXIMUM;
     std::size_t tree = QUILLET_TREE_SIZE_MAXIMUM;
+    std::int32_t least_severity = QUILLET_NOTE;
 };
 
 struct tree_freed {
@@ -162,7 +165,7 @@ public:
         if (statement_.size() > QUILLET_QUERY_SIZE_MAXIMUM)
             return fail(QUILLET_CAN_NOT_TRANSLATE, notices::statement_too_large);
         try {
-            translate(builder_info_of(builder_id), allowed);
+            translate(builder_id, allowed);
         } catch (const tree_is_too_large &) {
             fail(QUILLET_CAN_NOT_TRANSLATE, notices::tree_too_large);
         }
@@ -174,12 +177,18 @@ private:
         made_.list.add(why, whole(statement_));
     }
 
-    void translate(const quillet_builder_info &info, const limits &allowed) {
+    void translate(int builder_id, const limits &allowed) {
         const borrowed_context context;
-        builder *ours = context->builders.find(info);
+        builder *ours = context->builders.find(builder_info_of(builder_id));
         const tree_under_way tree(context->tree, ours ? tree_owner::library : tree_owner::host,
                                   allowed.tree);
-        const parse_result parsed = parse_statement(statement_, context->tree);
+        const dialect *own_dialect = builder_table[builder_id].own;
+        const bool remarks_are_wanted = own_dialect && allowed.least_severity < QUILLET_REFUSAL;
+        const remark_table *remarks = remarks_are_wanted ? own_dialect->remarks : nullptr;
+        const bool with_places = ours && remarks && remarks->is_frequent;
+        const parse_result parsed = with_places
+                                        ? parse_statement_with_places(statement_, context->tree)
+                                        : parse_statement(statement_, context->tree);
         if (parsed.has_open_comment)
             made_.list.add(notices::unended_comment, parsed.open_comment);
         if (parsed.fault != parse_fault::none)
@@ -189,7 +198,8 @@ private:
             throw std::bad_alloc();
         const std::unique_ptr<node_main, tree_freed> of_host(ours ? nullptr : parsed.root);
         context->rendering.text_limit = allowed.text;
-        render(info, ours, parsed.root, context->rendering);
+        context->rendering.remarks = remarks;
+        render(builder_info_of(builder_id), ours, parsed, context->rendering);
     }
 
     void fail_to_parse(const parse_result &parsed) {
@@ -217,7 +227,7 @@ private:
                        unknown_character_of(character));
     }
 
-    void render(const quillet_builder_info &info, builder *ours, node_main *tree,
+    void render(const quillet_builder_info &info, builder *ours, const parse_result &parsed,
                 rendering_memory &memory) {
         findings found;
         if (info.get_error_code != quillet_mysql_get_error_code) {
@@ -225,18 +235,39 @@ private:
             found.host_description = info.get_error_description;
         }
         memory.heard = &found;
+        memory.groups.clear();
         {
             const rendering_under_way under_way(&memory);
             const std::unique_ptr<builder, builder_freed> of_host(ours ? nullptr
                                                                        : info.constructor());
-            take(ours ? ours : of_host.get(), tree);
+            take(ours ? ours : of_host.get(), parsed.root);
         }
         if (memory.is_lacking)
             throw std::bad_alloc();
-        made_.list.add(found, statement_, tree);
+        if (made_.text)
+            finish_remarks(found, memory);
+        else
+            drop_remarks(found);
+        const bool says_lost_type = parsed.has_lost_type && made_.text && memory.remarks;
+        made_.list.add(found, statement_, parsed,
+                       says_lost_type ? memory.remarks->lost_type : nullptr);
         if (made_.code != QUILLET_SUCCESS && !made_.list.explains_failure())
             fail(made_.code,
                  made_.code == QUILLET_INVALID_QUERY ? notices::missing_part : notices::refused);
+    }
+
+    static void finish_remarks(findings &found, rendering_memory &memory) {
+        if (!memory.remarks || !memory.remarks->forms)
+            return;
+        memory.groups.finish(*memory.remarks->forms, [&](const node_expression *top) {
+            found.add(*memory.remarks->grouped_otherwise, top, kind_expression);
+        });
+    }
+
+    // A remark is about a text.
+    static void drop_remarks(findings &found) {
+        std::erase_if(found.list,
+                      [](const finding &each) { return each.what.severity < QUILLET_REFUSAL; });
     }
 
     // Takes over what a builder makes of the tree.
@@ -262,8 +293,9 @@ quillet_translation *quillet_translate(const char *statement, size_t length, int
     try {
         const std::string_view text(statement ? statement : "", statement ? length : 0);
         auto made = std::make_unique<owned_translation>();
-        translating(text, *made).run(builder_id, limits(options));
-        made->finish(text);
+        const limits allowed(options);
+        translating(text, *made).run(builder_id, allowed);
+        made->finish(text, allowed.least_severity);
         return made.release();
     } catch (const std::bad_alloc &) {
         return const_cast<quillet_translation *>(&no_memory);

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <regex>
+#include <set>
 #include <sstream>
 #include <string>
 
@@ -73,10 +75,10 @@ TEST(MysqlPage, HoldsEveryTextAndField) {
     };
     for (const auto &[name, rule] : operators) {
         if (rule.text.count)
-            expect(" | " + quoted(rule.text) + " |\n");
+            expect(" | " + quoted(rule.text) + " | ");
         if (rule.is_truth_test())
             expect(" | " + quoted(rule.by_truth[0]) + ", " + quoted(rule.by_truth[1]) + ", " +
-                   quoted(rule.by_truth[2]) + " |\n");
+                   quoted(rule.by_truth[2]) + " |");
         for (const typed_text &row : rule.by_types)
             if (row.text.count)
                 expect(quoted(row.text));
@@ -84,9 +86,25 @@ TEST(MysqlPage, HoldsEveryTextAndField) {
     for (const auto &[name, rule] : functions)
         if (rule.text.count)
             expect(std::string("\n| ") + name + " | " + quoted(rule.text) + " | " +
-                   default_type(name) + " |\n");
+                   default_type(name) + " |");
     for (const std::string &row : fields)
         expect(row);
+}
+
+// Each warning and note stands beside what it is about, and leads to its section.
+TEST(MysqlPage, LinksEveryWarningAndNoteAndNoOther) {
+    const std::set<std::string> known = {
+#define NOTICE(name, severity, id, message, hint) id,
+#include "quillet_mysql_notices.def"
+    };
+    const std::string text = page();
+    const std::regex link(R"(\[([a-z-]+)\]\(differences\.md#([a-z-]+)\))");
+    std::set<std::string> linked;
+    for (std::sregex_iterator found(text.begin(), text.end(), link), end; found != end; ++found) {
+        EXPECT_EQ((*found)[1], (*found)[2]);
+        linked.insert((*found)[1]);
+    }
+    EXPECT_EQ(linked, known);
 }
 
 TEST(MysqlPage, HoldsEveryRefusal) {

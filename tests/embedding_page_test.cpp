@@ -18,8 +18,8 @@ namespace {
 
 constexpr const char *no_hint = nullptr;
 
-std::string page() {
-    std::ifstream file(DOCS_DIRECTORY "/embedding.md");
+std::string page(const std::string &name) {
+    std::ifstream file(DOCS_DIRECTORY "/" + name);
     std::ostringstream text;
     text << file.rdbuf();
     return text.str();
@@ -73,7 +73,7 @@ std::multiset<std::string> rows() {
 // The rows that do: those that begin with a text in words, of small letters and hyphens.
 std::multiset<std::string> shown_rows() {
     std::multiset<std::string> found;
-    std::istringstream lines(page());
+    std::istringstream lines(page("embedding.md"));
     for (std::string line; std::getline(lines, line);) {
         if (line.rfind("| `", 0) != 0)
             continue;
@@ -84,7 +84,61 @@ std::multiset<std::string> shown_rows() {
     return found;
 }
 
+// A warning or note of a builder, as a row that leads to the section of its id.
+std::string linked_row(const std::string &anchor, int severity, const std::string &id) {
+    return "| [`" + id + "`](differences.md#" + anchor + id + ") | " + name_of(severity) + " |";
+}
+
+// The rows of the warnings and notes, in the order of the lists.
+std::vector<std::string> linked_rows() {
+    return {
+#define NOTICE(name, severity, id, message, hint) linked_row("", severity, id),
+#include "quillet_mysql_notices.def"
+#define NOTICE(name, severity, id, message, hint) linked_row("postgresql-", severity, id),
+#include "quillet_postgresql_notices.def"
+    };
+}
+
+// The rows of a page that begin so.
+std::vector<std::string> lines_of(const std::string &text, std::string_view begin) {
+    std::vector<std::string> found;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);)
+        if (line.rfind(begin, 0) == 0)
+            found.push_back(line);
+    return found;
+}
+
+// How the section of a warning or note begins.
+std::string section_of(const std::string &title, int severity, std::string message) {
+    message.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(message.front())));
+    std::string shown_severity = name_of(severity);
+    shown_severity.front() =
+        static_cast<char>(std::toupper(static_cast<unsigned char>(shown_severity.front())));
+    return "\n### " + title + "\n\n**" + shown_severity + ".** " + cell(message.c_str()) + ".";
+}
+
 } // namespace
+
+TEST(EmbeddingPage, HoldsEveryWarningAndNoteAndNoOther) {
+    EXPECT_EQ(lines_of(page("embedding.md"), "| [`"), linked_rows());
+    EXPECT_GT(linked_rows().size(), 60);
+}
+
+// The page that the rows lead to is written from the same lists.
+TEST(EmbeddingPage, LeadsToSectionsThatExist) {
+    const std::string text = page("differences.md");
+    const std::vector<std::string> sections = {
+#define NOTICE(name, severity, id, message, hint) section_of(id, severity, message),
+#include "quillet_mysql_notices.def"
+#define NOTICE(name, severity, id, message, hint)                                                  \
+    section_of(std::string("postgresql ") + id, severity, message),
+#include "quillet_postgresql_notices.def"
+    };
+    for (const std::string &section : sections)
+        EXPECT_NE(text.find(section), std::string::npos) << section;
+    EXPECT_EQ(lines_of(text, "### ").size(), sections.size());
+}
 
 TEST(EmbeddingPage, HoldsEveryDiagnosticAndNoOther) {
     std::multiset<std::string> expected = rows();
@@ -109,7 +163,7 @@ TEST(EmbeddingPage, HoldsTheCodeThatAFormatIsRefusedWith) {
 
 // The hints that depend on a character.
 TEST(EmbeddingPage, HoldsTheHintsForUnknownCharacters) {
-    const std::string text = page();
+    const std::string text = page("embedding.md");
     for (int byte = 1; byte < 256; ++byte) {
         const std::string statement = std::string("select ") + static_cast<char>(byte);
         const auto made = quillet::translate(statement, quillet::target::postgresql);

@@ -50,9 +50,11 @@ typedef struct quillet_translation {
 
 /* What may be asked of a translation. */
 typedef struct quillet_options {
-    size_t size;       /* sizeof(quillet_options): later versions have more fields */
-    size_t text_limit; /* bytes a text may take; 0: the library's own limit */
-    size_t tree_limit; /* bytes the tree may take; likewise */
+    size_t size;            /* sizeof(quillet_options): later versions have more fields */
+    size_t text_limit;      /* bytes a text may take; 0: the library's own limit */
+    size_t tree_limit;      /* bytes the tree may take; likewise */
+    int32_t least_severity; /* what matters less is not looked for: QUILLET_REFUSAL spares the time
+                               for notes and warnings, QUILLET_NOTE (0) asks for all */
 } quillet_options;
 
 /*

@@ -40,8 +40,9 @@ enum class severity : std::int32_t {
 
 // What may be asked of a translation; 0 is the library's own limit.
 struct options {
-    std::size_t text_limit = 0; // bytes a text may take
-    std::size_t tree_limit = 0; // bytes the tree may take
+    std::size_t text_limit = 0;               // bytes a text may take
+    std::size_t tree_limit = 0;               // bytes the tree may take
+    severity least_severity = severity::note; // what matters less is not looked for
 };
 
 // What there is to say about a part of a statement. The texts belong to the translation.
@@ -169,6 +170,7 @@ private:
     limits.size = sizeof limits;
     limits.text_limit = asked.text_limit;
     limits.tree_limit = asked.tree_limit;
+    limits.least_severity = static_cast<std::int32_t>(asked.least_severity);
     return translation(quillet_translate(statement.data(), statement.size(), builder_id, &limits));
 }
 

@@ -7,8 +7,9 @@
 #include <stddef.h>
 #include <stdint.h>
 
-/* How much it matters. Refusals and errors are why there is no text; a refusal inside of a cast is
-   lost to the code, and the text is wrong there. */
+/* How much it matters. A note: the target may answer otherwise, depending on what only the database
+   knows. A warning: it does, or rejects the text. Refusals and errors are why there is no text; one
+   inside of a cast may be lost to the code, and the text is wrong there. */
 enum { QUILLET_NOTE, QUILLET_WARNING, QUILLET_REFUSAL, QUILLET_ERROR };
 
 /* The texts belong to the translation. */

@@ -5,6 +5,7 @@
 
 #include "quillet_function_rules.h"
 #include "quillet_mysql_arithmetic.h"
+#include "quillet_mysql_remarks.h"
 #include "quillet_mysql_rendering.h"
 #include "quillet_operators.h"
 
@@ -48,6 +49,37 @@ constexpr std::array<operator_rule, operator_count> operators = [] {
     return rules;
 }();
 
+// MySQL's precedence, in the layers of its grammar.
+constexpr operator_token mysql_tokens[] = {
+    {"OR", 1},      {"AND", 3}, {"NOT", 7, 4}, {"IS", 6},  {"=", 6},    {"<", 6},
+    {">", 6},       {"<=", 6},  {">=", 6},     {"!=", 6},  {"LIKE", 7}, {"REGEXP", 7},
+    {"BETWEEN", 7}, {"|", 8},   {"&", 9},      {"<<", 10}, {">>", 10},  {"+", 11},
+    {"-", 11, 14},  {"*", 12},  {"/", 12},     {"%", 12},  {"^", 13},   {"BINARY", 0, 15},
+};
+
+constexpr operator_grammar grammar = {mysql_tokens, true};
+
+// The form of a row's text. By types there are several, which hold their operands as the default
+// one does; a function holds them together.
+constexpr operator_form form_of_row(const operator_rule &rule, const operator_form &by_default) {
+    if (rule.text.count > 0)
+        return form_of(rule.text, grammar);
+    if (rule.is_truth_test())
+        return form_of(rule.by_truth[0], grammar);
+    return rule.by_types.empty() ? operator_form{} : by_default;
+}
+
+constexpr operator_forms forms_of_texts = [] {
+    operator_forms list{};
+#define OPERATOR(name, marked, ...)                                                                \
+    list[operator_id_##name] = form_of(text_template(marked), grammar);
+#include "quillet_operators.def"
+#define OPERATOR(name, ...)                                                                        \
+    list[operator_id_##name] = form_of_row(__VA_ARGS__, list[operator_id_##name]);
+#include "quillet_mysql_slots.def"
+    return list;
+}();
+
 constexpr std::array<function_rule, function_count> functions = [] {
     std::array<function_rule, function_count> rules{};
 #define FUNCTION(name, ...) rules[function_id_##name] = __VA_ARGS__;
@@ -79,6 +111,8 @@ template <const auto &Rule, class Node> outcome render_kind(rendering &r, Node *
     }
 #include "quillet_mysql_slots.def"
 
+constinit const operator_forms quillet::mysql::forms = forms_of_texts;
+
 constinit const dialect quillet::mysql_dialect = [] {
     dialect own{};
 #define KIND(kind, ...)                                                                            \
@@ -95,6 +129,7 @@ constinit const dialect quillet::mysql_dialect = [] {
     own.cast = &mysql::cast;
     own.keep_reason = mysql::keep_reason;
     own.notice_of = mysql::notice_of;
+    own.remarks = &mysql::remarks;
     return own;
 }();
 

@@ -122,6 +122,7 @@ outcome render_const_generic(rendering &r, node_const_generic *node, void *data)
     begin_cast(r, node->type);
     const outcome string = r.child(node->const_string);
     node->sql_type = node->type;
+    r.remark(node);
     return end_cast(r, node->type, begin, string);
 }
 

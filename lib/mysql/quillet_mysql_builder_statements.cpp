@@ -36,7 +36,9 @@ outcome render_select_item(rendering &r, node_select_item *node, void *) {
         r.out.append(", 'TRUE', 'FALSE')");
         expression.text = true;
     }
-    return complete_select_item(r, node->identifier, expression);
+    const outcome result = complete_select_item(r, node->identifier, expression);
+    r.remark(node);
+    return result;
 }
 
 // A double quote at either end becomes a backquote.

@@ -607,9 +607,9 @@ const_generic
     | const_floating { $$ = make(here, node_const_generic{.const_floating = $1}); }
     | NULL           { $$ = make(here, node_const_generic{}); }
     | identifier const_string at_time_zone
-        { $$ = make(here, node_const_generic{.const_string = $2, .type = type_named(here, $1), .at_time_zone = $3}); }
+        { $$ = make(here, node_const_generic{.const_string = $2, .type = parse->literal_type(type_named(here, $1)), .at_time_zone = $3}); }
     | identifier identifier const_string at_time_zone
-        { $$ = make(here, node_const_generic{.const_string = $3, .type = type_named(here, $1, $2), .at_time_zone = $4}); }
+        { $$ = make(here, node_const_generic{.const_string = $3, .type = parse->literal_type(type_named(here, $1, $2)), .at_time_zone = $4}); }
     ;
 
 at_time_zone

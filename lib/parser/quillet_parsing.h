@@ -13,6 +13,7 @@
 #include "quillet_scanner.h"
 #include "quillet_tree_memory.h"
 #include "quillet_tree_node.h"
+#include "quillet_types.h"
 
 namespace quillet {
 
@@ -48,6 +49,13 @@ struct quillet_parsing {
     quillet_blocks stack = {}; // what bison holds
     node_main *root = nullptr; // which may be complete before what follows it turns out wrong
     bool is_too_deep = false;
+    bool has_lost_type = false; // a word before a string that names no type
+
+    // The type of a literal with a type word.
+    int literal_type(int named) {
+        has_lost_type = has_lost_type || named == QUILLET_TYPE_UNKNOWN;
+        return named;
+    }
 
     // The place of the last token in the statement.
     quillet::place last_token() const {

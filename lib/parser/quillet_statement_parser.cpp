@@ -46,6 +46,7 @@ public:
             result.root = parsing_.root;
         else
             explain(result);
+        result.has_lost_type = parsing_.has_lost_type;
         result.has_open_comment = scan_.has_open_comment != 0;
         if (result.has_open_comment)
             result.open_comment = place_of(scan_.comment_begin, scan_.size);
@@ -75,7 +76,9 @@ parse_result parse_statement(std::string_view statement, tree_memory &memory) {
 }
 
 parse_result parse_statement_with_places(std::string_view statement, tree_memory &memory) {
-    return statement_parse(statement, memory).result_of(yy_quillet_places_parse);
+    parse_result result = statement_parse(statement, memory).result_of(yy_quillet_places_parse);
+    result.has_places = true;
+    return result;
 }
 
 } // namespace quillet

@@ -27,6 +27,8 @@ struct parse_result {
     node_main *root = nullptr; // NULL with a fault
     parse_fault fault = parse_fault::none;
     place where{};                 // of the fault; of a syntax error the token that does not fit
+    bool has_places = false;       // the nodes have places before them
+    bool has_lost_type = false;    // a word before a string names no type, and is not in the tree
     bool has_open_comment = false; // without an end; what stands before it is parsed all the same
     place open_comment{};
 };

@@ -23,6 +23,7 @@ outcome render_overlaps_expression(rendering &r, node_overlaps_expression *node,
 outcome render_case_expression(rendering &r, node_case_expression *node, void *) {
     if (!node->when_list)
         return r.lacks(node);
+    r.remark(node);
     r.out.append("CASE ");
     const output::place begin = r.out.here();
     outcome result = a_text;

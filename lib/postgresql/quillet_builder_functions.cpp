@@ -28,7 +28,11 @@ outcome render_function_call(rendering &r, node_function_call *node, void *) {
         if (const auto own = r.self->*slot) {
             r.out.cut(begin);
             const dialect *home = dialect_of(slot, own);
-            return home ? render_function(r, *home, index, node) : r.call(own, node, nullptr);
+            if (!home)
+                return r.call(own, node, nullptr);
+            const outcome call = render_function(r, *home, index, node);
+            r.remark_function(index, node);
+            return call;
         }
     }
     r.out.append('(');
@@ -42,6 +46,7 @@ outcome render_function_call(rendering &r, node_function_call *node, void *) {
     argument.add(node->trim_argument);
     r.out.append(')');
     node->sql_type = index >= 0 ? default_type_of(index, *node) : int{QUILLET_TYPE_UNKNOWN};
+    r.remark_function(index, node);
     return {true, true, argument.status() ? argument.status() : result.status};
 }
 

@@ -53,6 +53,7 @@ outcome render_const_generic(rendering &r, node_const_generic *node, void *) {
         if (!is_string || !quillet_is_datetime(node->type))
             r.out.cut(after_value);
     }
+    r.remark(node);
     if (is_string && !r.out.has_grown_since(after_blank))
         r.out.cut(after_word); // the string was empty
     return result;

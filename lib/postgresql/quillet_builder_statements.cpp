@@ -39,6 +39,7 @@ outcome render_insert(rendering &r, node_insert *node, void *) {
     if (!node->table || !node->values_list)
         return r.lacks(node);
     const output::place begin = r.out.here();
+    r.remark(node);
     outcome result = r.enclosed_child("INSERT INTO ", node->table);
     const outcome columns = r.prefixed_child(" (", node->identifier_list);
     result.fail_with(columns);
@@ -67,6 +68,7 @@ outcome render_update(rendering &r, node_update *node, void *) {
 outcome render_delete(rendering &r, node_delete *node, void *) {
     if (!node->table)
         return r.lacks(node);
+    r.remark(node);
     r.out.append("DELETE FROM ");
     const output::place begin = r.out.here();
     outcome result = a_text;
@@ -120,6 +122,7 @@ outcome render_expression_or_default_item(rendering &r, node_expression_or_defau
 outcome render_set_clausule(rendering &r, node_set_clausule *node, void *) {
     if (!node->set_list)
         return r.lacks(node);
+    r.remark(node);
     return r.enclosed_child("SET ", node->set_list);
 }
 
@@ -158,6 +161,7 @@ outcome render_table(rendering &r, node_table *node, void *) {
     outcome result = r.child(node->identifier);
     const outcome alias = r.prefixed_child(" AS ", node->alias);
     result.fail_with(alias);
+    r.remark(node);
     return {true, result.text || alias.text, result.status};
 }
 
@@ -182,6 +186,7 @@ outcome render_join(rendering &r, node_join *node, void *) {
     outcome result = r.child(node->table);
     const outcome condition = r.spaced_child(begin, node->join_expression);
     result.fail_with(condition);
+    r.remark(node);
     return {true, result.text || condition.text || known || node->natural, result.status};
 }
 
@@ -212,6 +217,7 @@ outcome render_group_by_clausule(rendering &r, node_group_by_clausule *node, voi
     if (!node->column_reference_list)
         return r.lacks(node);
     r.out.append("GROUP BY ");
+    r.remark(node);
     const output::place begin = r.out.here();
     outcome result = a_text;
     result.fail_with(r.child(node->column_reference_list));
@@ -228,7 +234,9 @@ outcome render_having_clausule(rendering &r, node_having_clausule *node, void *)
 outcome render_order_by_clausule(rendering &r, node_order_by_clausule *node, void *) {
     if (!node->order_by_list)
         return r.lacks(node);
-    return r.enclosed_child("ORDER BY ", node->order_by_list);
+    const outcome result = r.enclosed_child("ORDER BY ", node->order_by_list);
+    r.remark(node);
+    return result;
 }
 
 outcome render_order_by_list(rendering &r, node_order_by_list *node, void *data) {
@@ -267,6 +275,7 @@ outcome render_distinct_select_list(rendering &r, node_distinct_select_list *nod
 
 outcome render_distinct(rendering &r, node_distinct *node, void *) {
     r.out.append("DISTINCT");
+    r.remark(node);
     const outcome list = r.prefixed_child(" (", node->select_list);
     if (list.text)
         r.out.append(")");
@@ -279,12 +288,15 @@ outcome render_select_list(rendering &r, node_select_list *node, void *data) {
 }
 
 outcome render_select_item(rendering &r, node_select_item *node, void *) {
-    return complete_select_item(r, node->identifier, r.child(node->expression));
+    const outcome result = complete_select_item(r, node->identifier, r.child(node->expression));
+    r.remark(node);
+    return result;
 }
 
 // Names and columns.
 
 outcome render_identifier_list(rendering &r, node_identifier_list *node, void *data) {
+    r.remark(node);
     return render_list<&node_identifier_list::identifier_list, &node_identifier_list::identifier>(
         r, node, data, comma);
 }
@@ -308,6 +320,7 @@ outcome render_column_reference(rendering &r, node_column_reference *node, void 
     if (qualifier.text)
         r.out.append(".");
     const outcome column = r.child(node->column_name);
+    r.remark(node);
     outcome result{true, qualifier.text || column.text, qualifier.status};
     result.fail_with(column);
     return result;

@@ -6,6 +6,7 @@
 #include "quillet_default_rendering.h"
 #include "quillet_expressions.h"
 #include "quillet_operators.h"
+#include "quillet_postgresql_remarks.h"
 #include "quillet_types.h"
 
 using namespace quillet;
@@ -76,6 +77,7 @@ constinit const dialect quillet::postgresql_dialect = {
     .frame = nullptr,
     .keep_reason = nullptr,
     .notice_of = nullptr,
+    .remarks = &postgresql::remarks,
 };
 
 builder *quillet_default_builder_create(void) {

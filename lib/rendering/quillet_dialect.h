@@ -14,6 +14,8 @@
 
 namespace quillet {
 
+struct remark_table;
+
 struct dialect {
     builder operations; // what it puts into the slots; NULL where it puts nothing
 #define NODE(kind) renderer<node_##kind> render_##kind;
@@ -24,6 +26,7 @@ struct dialect {
     const expression_frame *frame;            // NULL for none
     void (*keep_reason)(std::int32_t reason); // of a refusal; NULL: it refuses nothing
     notice (*notice_of)(std::int32_t reason);
+    const remark_table *remarks; // NULL for none
 };
 
 // The dialects, the default one first. They are listed where all of them are known, at the top of

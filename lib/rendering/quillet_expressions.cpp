@@ -96,6 +96,7 @@ outcome end_expression(rendering &r, const step &begun, const outcome &first) {
     case step::type_cast: {
         const cast_rule &rule = *begun.use.home->cast;
         const outcome result = rule.end(r, *node->cast_expression, begun.begin, first);
+        r.remark(node->cast_expression);
         if (result.text)
             node->sql_type = node->cast_expression->sql_type;
         return result.text || result.status ? result : missing_part;
@@ -175,7 +176,9 @@ outcome render_cast(rendering &r, const cast_rule &rule, node_cast_expression *n
         return r.lacks(node);
     const output::place begin = r.out.here();
     rule.begin(r, *node);
-    return rule.end(r, *node, begin, r.child(node->expression));
+    const outcome result = rule.end(r, *node, begin, r.child(node->expression));
+    r.remark(node);
+    return result;
 }
 
 } // namespace quillet

@@ -9,7 +9,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
+#include <list>
 #include <string>
 #include <vector>
 
@@ -49,7 +49,7 @@ struct finding {
 // What has been found in a translation.
 struct findings {
     std::vector<finding> list;
-    std::deque<std::string> texts;
+    std::list<std::string> texts;
     std::int32_t reason = 0; // the last one of the builder mysql
 
     bool is_exhausted = false; // whether no more is looked for in what is not rendered

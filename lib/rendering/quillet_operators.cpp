@@ -108,6 +108,18 @@ outcome write_by_truth(const operator_rule &rule, node_expression *node, operand
     return {true, false, all.status()};
 }
 
+// Writes the text for operands whose types are known.
+outcome write(rendering &r, operator_use use, node_expression *node, void *data, operands &all,
+              int left, int right) {
+    const operator_rule &rule = use.rule();
+    if (rule.is_truth_test())
+        return write_by_truth(rule, node, all);
+    if (!rule.by_types.empty())
+        return write_by_types(r, use, node, data, all, left, right);
+    node->sql_type = use.default_rule().type(left, right);
+    return all.write(rule.text);
+}
+
 // Renders the operands from the given one on, and writes the text.
 outcome complete(rendering &r, operator_use use, node_expression *node, void *data, operands &all,
                  int next, outcome first) {
@@ -121,15 +133,10 @@ outcome complete(rendering &r, operator_use use, node_expression *node, void *da
         else if (mark == operand::second)
             second = result;
     }
-    const operator_rule &rule = use.rule();
-    if (rule.is_truth_test())
-        return write_by_truth(rule, node, all);
-    const std::int32_t left = type_of(node->expression_1, first);
-    const std::int32_t right = type_of(node->expression_2, second);
-    if (!rule.by_types.empty())
-        return write_by_types(r, use, node, data, all, left, right);
-    node->sql_type = use.default_rule().type(left, right);
-    return all.write(rule.text);
+    const outcome result = write(r, use, node, data, all, type_of(node->expression_1, first),
+                                 type_of(node->expression_2, second));
+    r.remark_operator(use.index, node);
+    return result;
 }
 
 } // namespace
@@ -158,8 +165,11 @@ outcome render_operator(rendering &r, operator_use use, node_expression *node, v
     const operator_rule &rule = use.rule();
     if (rule.refusal)
         return r.refuse(*use.home, node, rule.refusal);
-    if (rule.own)
-        return rule.own(r, node, data);
+    if (rule.own) {
+        const outcome result = rule.own(r, node, data);
+        r.remark_operator(use.index, node);
+        return result;
+    }
     if (is_missing_operand(use, *node))
         return r.lacks(node);
     operands all(r, known_text(rule));

@@ -17,7 +17,7 @@ template <class Element> void give_back(std::vector<Element> &mine, std::vector<
 } // namespace
 
 rendering::rendering(builder *renderer)
-    : kept_(rendering_memory_in_use()), self(renderer), out(memory_.gaps) {
+    : kept_(rendering_memory_in_use()), remarks_(kept_.remarks), self(renderer), out(memory_.gaps) {
     memory_.lists.swap(kept_.lists);
     memory_.expressions.swap(kept_.expressions);
     memory_.gaps.swap(kept_.gaps);
@@ -34,6 +34,20 @@ rendering::~rendering() {
     give_back(memory_.gaps, kept_.gaps);
     if (is_outermost_)
         kept_.stack.reset();
+}
+
+void rendering::look_for_remark_on_operator(int index, node_expression *node) {
+    if (remarks_->forms)
+        kept_.groups.add(node, index, *remarks_->forms);
+    if (const auto known = remarks_->operators[static_cast<std::size_t>(index)])
+        known(*this, node);
+}
+
+void rendering::look_for_remark_on_function(int index, node_function_call *node) {
+    const auto known = index >= 0 ? remarks_->functions[static_cast<std::size_t>(index)]
+                                  : remarks_->other_functions;
+    if (known)
+        known(*this, node);
 }
 
 outcome rendering::take(build_result *result) {
@@ -87,6 +101,7 @@ void rendering_memory::release() {
     std::vector<list_step>().swap(lists);
     std::vector<expression_step>().swap(expressions);
     output::memory().swap(gaps);
+    groups = {};
 }
 
 build_result *rendering::finish(outcome result) {

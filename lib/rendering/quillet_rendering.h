@@ -22,6 +22,7 @@
 #include "quillet_dialect.h"
 #include "quillet_limits.h"
 #include "quillet_output.h"
+#include "quillet_remarks.h"
 #include "quillet_rules.h"
 #include "quillet_walk.h"
 
@@ -63,6 +64,8 @@ struct rendering_memory {
     bool is_lacking = false; // whether an operation has failed for want of memory, in the outermost
     std::size_t text_limit = QUILLET_TEXT_SIZE_MAXIMUM;
     findings *heard = nullptr; // where what is found goes; NULL: nowhere, in the classic call
+    const remark_table *remarks = nullptr; // what is looked for; likewise
+    operator_groups groups;
 
     // Gives the scratch back.
     void release();
@@ -98,6 +101,7 @@ enum class seen : std::uint8_t { no, yes };
 
 class rendering {
     rendering_memory &kept_;
+    const remark_table *const remarks_; // what is looked for, NULL in the classic call
     rendering_memory memory_; // what the gaps of the text below live in, so it comes first
 
 public:
@@ -195,7 +199,8 @@ public:
     }
 
     // Fails with a node that lacks a part.
-    template <class Node> outcome lacks(Node *node, seen children = seen::no) {
+    template <class Node>
+    [[gnu::noinline, gnu::cold]] outcome lacks(Node *node, seen children = seen::no) {
         if (kept_.heard)
             hear(missing_part_of(kind_of<Node>), node, children);
         return missing_part;
@@ -221,7 +226,8 @@ public:
 
     // Takes note of something about a node. What is to be found in its children would be lost if
     // they were not rendered; that ends with the first limit that it reaches.
-    template <class Node> [[gnu::cold]] void hear(const notice &what, Node *node, seen children) {
+    template <class Node>
+    [[gnu::noinline, gnu::cold]] void hear(const notice &what, Node *node, seen children) {
         kept_.heard->add(what, node, kind_of<Node>);
         if (children == seen::yes || kept_.heard->is_exhausted || is_exhausted())
             return;
@@ -232,6 +238,25 @@ public:
         });
         kept_.heard->is_exhausted = is_exhausted();
         exhausted_ = exhaustion::none;
+    }
+
+    // Remarks what there is to be remarked on a node that has been rendered.
+    template <class Node> void remark(Node *node) {
+        if (remarks_) [[unlikely]]
+            look_for_remark(node);
+    }
+    void remark_operator(int index, node_expression *node) {
+        if (remarks_) [[unlikely]]
+            look_for_remark_on_operator(index, node);
+    }
+    void remark_function(int index, node_function_call *node) {
+        if (remarks_) [[unlikely]]
+            look_for_remark_on_function(index, node);
+    }
+
+    // Says something of a node.
+    template <class Node> void say(const notice &what, const Node *node) {
+        kept_.heard->add(what, node, kind_of<Node>);
     }
 
     // Whether a limit has been reached. Nothing more is rendered then, and the rendering fails.
@@ -260,6 +285,13 @@ private:
             return (home->*slot_of<Node>::render)(*this, node, data);
         return call(found, node, data);
     }
+
+    template <class Node> [[gnu::noinline, gnu::cold]] void look_for_remark(Node *node) {
+        if (const auto known = remarks_->*remark_of<Node>::member)
+            known(*this, node);
+    }
+    void look_for_remark_on_operator(int index, node_expression *node);
+    void look_for_remark_on_function(int index, node_function_call *node);
 
     // Appends the text of an operation's result and frees both.
     outcome take(build_result *result);

@@ -7,6 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <utility>
+#include <vector>
 
 #include "quillet_tree_node.h"
 
@@ -64,6 +66,21 @@ template <class Value> Value field_value(const void *node, const node_field &fie
     Value value;
     std::memcpy(&value, static_cast<const char *>(node) + field.offset, sizeof value);
     return value;
+}
+
+// Visits a node and all below it, with their kinds, until a visit returns false.
+template <class Visit> void visit_tree(const void *top, node_kind kind_of_top, Visit visit) {
+    std::vector<std::pair<const void *, node_kind>> left{{top, kind_of_top}};
+    while (!left.empty()) {
+        const auto [node, kind] = left.back();
+        left.pop_back();
+        if (!visit(node, kind))
+            return;
+        for (const node_field *field = fields_of[kind]; field->role != field_role::end; ++field)
+            if (field->role == field_role::child)
+                if (const void *child = field_value<const void *>(node, *field))
+                    left.emplace_back(child, field->kind);
+    }
 }
 
 } // namespace quillet
