@@ -149,12 +149,13 @@ class Servers:
             raise
 
     def __exit__(self, *_):
-        for stop in (signal.SIGINT, signal.SIGTERM):
-            signal.signal(stop, signal.SIG_IGN)
+        usual = {stop: signal.signal(stop, signal.SIG_IGN) for stop in (signal.SIGINT, signal.SIGTERM)}
         for server, how in reversed(self._started):
             server.stop(how)
         if self._scratch:
             shutil.rmtree(self._scratch, ignore_errors=True)
+        for stop, handler in usual.items():
+            signal.signal(stop, handler)
 
     def _server(self, name, users, how):
         server = _Server(self._scratch, name, users)

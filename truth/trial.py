@@ -4,10 +4,10 @@ from collections import namedtuple
 
 from rows import Answer, Comparison, is_ordered, tie_groups
 from sessions import Failure
-from values import DIFFERS, SAME, shape
+from values import DIFFERS, OTHERWISE, SAME, shape
 
 REFUSED, REJECTED, INVALID = "refused", "rejected", "invalid"
-OUTCOMES = (SAME, "otherwise", REFUSED, REJECTED, DIFFERS, INVALID)
+OUTCOMES = (SAME, OTHERWISE, REFUSED, REJECTED, DIFFERS, INVALID)
 BUILDERS = ("postgresql", "mysql")
 
 SAMPLE_LENGTH = 70
@@ -15,6 +15,10 @@ SAMPLE_LENGTH = 70
 # detail: how it is written otherwise, the code of a refusal, the server's error, or the two samples.
 # says: the ids of the diagnostics, each with its severity. text: the library's.
 Result = namedtuple("Result", "outcome detail says text")
+
+
+def is_right(result):
+    return result.outcome in (SAME, OTHERWISE)
 
 
 def is_wrong(result):
@@ -37,8 +41,13 @@ class Trials:
 
     def run(self, statement, is_volatile=False):
         """The results by builder. Of volatile values only what they look like is compared."""
+        made = {builder: self._library.translate(statement, builder) for builder in BUILDERS}
+        return self.judge(statement, made, is_volatile)
+
+    def judge(self, statement, made, is_volatile=False):
+        """The results of translations, by the builders they are of."""
         self._mariadb.pin_clock(not is_volatile)
-        original = self._attempt(self._postgresql, statement)
+        original = self.ask("postgresql", statement)
         groups = None
         if isinstance(original, Answer) and not is_volatile and is_ordered(statement):
             groups = self._tie_groups(statement, original)
@@ -46,27 +55,33 @@ class Trials:
         if our_kinds:
             original = _shapes(original, our_kinds)
         results = {}
-        for builder in BUILDERS:
-            made = self._library.translate(statement, builder)
-            outcome, detail = self._judge(original, made, builder, groups, our_kinds)
-            results[builder] = Result(outcome, detail, made.says, made.text)
+        for builder, translation in made.items():
+            outcome, detail = self._judge(original, translation, builder, groups, our_kinds)
+            results[builder] = Result(outcome, detail, translation.says, translation.text)
         return results
+
+    def ask(self, builder, text):
+        """The answer of a builder's server, or its failure."""
+        try:
+            return self._sessions[builder].ask(text)
+        except Failure as failure:
+            return failure
 
     def _judge(self, original, made, builder, groups, our_kinds):
         if isinstance(original, Failure) and not original.is_of_values:
-            return INVALID, _shortened(str(original))
+            return INVALID, shortened(str(original))
         if made.text is None:
             return REFUSED, f"code {made.code}"
-        answer = self._attempt(self._sessions[builder], made.text)
+        answer = self.ask(builder, made.text)
         if our_kinds:
             answer = _shapes(answer, our_kinds)
         if isinstance(answer, Failure):
             if isinstance(original, Failure) and answer.is_of_values:
                 return SAME, "an error in both"
-            return REJECTED, _shortened(str(answer))
+            return REJECTED, shortened(str(answer))
         if isinstance(original, Failure):
-            sample = _sample(answer.rows[0]) if answer.rows else "no row"
-            return DIFFERS, f"{_shortened(str(original))} but {sample}"
+            first = sample(answer.rows[0]) if answer.rows else "no row"
+            return DIFFERS, f"{shortened(str(original))} but {first}"
         comparison = Comparison(original, answer, groups)
         if comparison.first:
             return DIFFERS, _both(comparison)
@@ -79,13 +94,6 @@ class Trials:
         except Failure:
             return [(i, i + 1, [row]) for i, row in enumerate(original.rows)]
 
-    @staticmethod
-    def _attempt(session, text):
-        try:
-            return session.ask(text)
-        except Failure as failure:
-            return failure
-
 
 def _shapes(answer, our_kinds):
     if isinstance(answer, Failure) or len(answer.kinds) != len(our_kinds):
@@ -93,15 +101,15 @@ def _shapes(answer, our_kinds):
     return Answer([tuple(map(shape, row, our_kinds)) for row in answer.rows], ["text"] * len(our_kinds))
 
 
-def _shortened(text, length=SAMPLE_LENGTH * 2):
+def shortened(text, length=SAMPLE_LENGTH * 2):
     text = "".join(c if c.isprintable() else c.encode("unicode_escape").decode() for c in text)
     return text if len(text) <= length else text[: length - 3] + "..."
 
 
-def _sample(row):
+def sample(row):
     if isinstance(row, str):
         return row
-    return _shortened("(" + ", ".join("NULL" if v is None else f"'{v}'" for v in row) + ")")
+    return shortened("(" + ", ".join("NULL" if v is None else f"'{v}'" for v in row) + ")")
 
 
 def _both(comparison):
@@ -111,4 +119,4 @@ def _both(comparison):
         keep = sorted({0, *comparison.differing_columns()})
         ours = tuple(ours[i] for i in keep)
         theirs = tuple(theirs[i] for i in keep)
-    return f"{_sample(ours)} but {_sample(theirs)}"
+    return f"{sample(ours)} but {sample(theirs)}"

@@ -6,6 +6,7 @@ import signal
 import sys
 
 import corpus
+import page
 import pairs
 import results
 import servers
@@ -34,6 +35,7 @@ def arguments():
     parser.add_argument(
         "--pairs", action="store_true", help="write truth/corpus/pairs.sql anew, and end"
     )
+    parser.add_argument("--page", action="store_true", help="write docs/differences.md, and end")
     return parser.parse_args()
 
 
@@ -51,6 +53,8 @@ def main():
     library = Library(LIBRARY)
     report = Report()
     signal.signal(signal.SIGTERM, interrupted)
+    if options.page:
+        return 0 if check_page(library, is_written=True) else 1
     with servers.Servers(options.settings) as running:
         postgresql = sessions.PostgreSQL(running)
         if options.pairs:
@@ -67,7 +71,27 @@ def main():
     if options.dump:
         report.dump(options.dump)
     report.print_table()
-    return 0 if report.print_failures(options) else 1
+    passed = report.print_failures(options)
+    if not options.families and not options.update and options.settings == "default":
+        passed = check_page(library, is_written=False) and passed
+    return 0 if passed else 1
+
+
+def check_page(library, is_written):
+    """Makes docs/differences.md, writes it or compares it, and returns whether all is well."""
+    made = page.Page(library)
+    for settings in servers.SETTINGS:
+        with servers.Servers(settings) as running:
+            made.gather(settings, Trials(library, sessions.PostgreSQL(running), sessions.MariaDB(running)))
+    failures = made.failures()
+    if is_written:
+        page.write(made.text())
+    elif made.text() != page.recorded():
+        failures = [*failures, f"{page.FILE} is not what --page writes"]
+    if failures:
+        print("\nFAILED: the page of differences:")
+        print("\n".join(f"  {failure}" for failure in failures))
+    return not failures
 
 
 try:

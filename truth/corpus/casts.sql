@@ -463,3 +463,7 @@ select id, c::varchar || '!' from kind where id != 5 and id != 6
 select id, lower(n::text) from kind where id != 5 and id != 6
 select id, upper(v::text) from kind where id != 5 and id != 6
 select id, cast(v as varchar) from kind where id != 5 and id != 6
+select id, n / cast(id + 1 as numeric) from kind where id < 3
+select id, n / cast((id + 1) as numeric) from kind where id < 3
+select id, cast(id + 1 as numeric) * 2 from kind where id < 3
+select id, cast(id + 1 as numeric) from kind where id < 3

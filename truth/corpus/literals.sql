@@ -117,3 +117,11 @@ select "select" from "order"
 select "Mixed Case" from "order" where "select" is not null
 select o."select" as "from" from "order" as o
 select "order".id from "order" order by "order".id
+select timestamp '2005-01-31 10:59:59'
+select timestamp '2005-01-31 10:60:00'
+select timestamp '2005-01-31 10:20:61'
+select time '10:60'
+select time '23:59:60'
+select id, n from kind where id < 5 order by n is null, n
+select id, v from kind where id < 5 order by v is null, v
+select id, n from kind where id < 5 order by n is null desc, n desc
