@@ -180,15 +180,13 @@ private:
     void translate(int builder_id, const limits &allowed) {
         const borrowed_context context;
         builder *ours = context->builders.find(builder_info_of(builder_id));
-        const tree_under_way tree(context->tree, ours ? tree_owner::library : tree_owner::host,
-                                  allowed.tree);
+        tree_under_way tree(context->tree, ours ? tree_owner::library : tree_owner::host,
+                            allowed.tree);
         const dialect *own_dialect = builder_table[builder_id].own;
         const bool remarks_are_wanted = own_dialect && allowed.least_severity < QUILLET_REFUSAL;
         const remark_table *remarks = remarks_are_wanted ? own_dialect->remarks : nullptr;
         const bool with_places = ours && remarks && remarks->is_frequent;
-        const parse_result parsed = with_places
-                                        ? parse_statement_with_places(statement_, context->tree)
-                                        : parse_statement(statement_, context->tree);
+        const parse_result parsed = parse(context->tree, tree, with_places);
         if (parsed.has_open_comment)
             made_.list.add(notices::unended_comment, parsed.open_comment);
         if (parsed.fault != parse_fault::none)
@@ -200,6 +198,18 @@ private:
         context->rendering.text_limit = allowed.text;
         context->rendering.remarks = remarks;
         render(builder_info_of(builder_id), ours, parsed, context->rendering);
+    }
+
+    // Places take memory as well, which the limit of the tree is not for.
+    parse_result parse(tree_memory &memory, tree_under_way &tree, bool with_places) {
+        if (with_places) {
+            try {
+                return parse_statement_with_places(statement_, memory);
+            } catch (const tree_is_too_large &) {
+                tree.begin_again();
+            }
+        }
+        return parse_statement(statement_, memory);
     }
 
     void fail_to_parse(const parse_result &parsed) {

@@ -466,6 +466,23 @@ TEST(TranslationLimits, OfTheTreeHold) {
     EXPECT_STREQ(translate(statement, mysql, &options)->text, "SELECT a, b FROM t");
 }
 
+TEST(TranslationLimits, OfTheTreeAreNotForPlaces) {
+    const std::string statement = "select a + b, c from t where d = 'e'";
+    quillet_options options{};
+    options.size = sizeof options;
+    options.tree_limit = 1;
+    options.least_severity = QUILLET_REFUSAL;
+    for (; translate(statement, mysql, &options)->code != 0; ++options.tree_limit)
+        ASSERT_LT(options.tree_limit, 10000U);
+    options.least_severity = QUILLET_NOTE;
+    const translation noted = translate(statement, mysql, &options);
+    EXPECT_EQ(noted->code, 0);
+    EXPECT_EQ(said_of(*noted, statement),
+              (std::vector<said>{{"unknown-arithmetic", "a + b"}, {"text-comparison", "d = 'e'"}}));
+    --options.tree_limit;
+    EXPECT_EQ(translate(statement, mysql, &options)->code, -3);
+}
+
 TEST(TranslationLimits, AreThoseOfTheLibraryUnlessTheyAreLower) {
     const quillet_options large = {sizeof large, SIZE_MAX, SIZE_MAX};
     EXPECT_EQ(translate("select 1", mysql, &large)->code, 0);

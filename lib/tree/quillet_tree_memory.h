@@ -113,15 +113,24 @@ class tree_under_way {
 public:
     tree_under_way(tree_memory &memory, tree_owner owner,
                    std::size_t limit = QUILLET_TREE_SIZE_MAXIMUM)
-        : memory_(memory) {
-        memory_.begin(owner, limit);
+        : memory_(memory), owner_(owner), limit_(limit) {
+        memory_.begin(owner_, limit_);
     }
     ~tree_under_way() { memory_.end(); }
+
+    // Begins anew, without what there is of the tree.
+    void begin_again() {
+        memory_.end();
+        memory_.begin(owner_, limit_);
+    }
+
     tree_under_way(const tree_under_way &) = delete;
     tree_under_way &operator=(const tree_under_way &) = delete;
 
 private:
     tree_memory &memory_;
+    const tree_owner owner_;
+    const std::size_t limit_;
 };
 
 } // namespace quillet
