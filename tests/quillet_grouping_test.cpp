@@ -160,5 +160,5 @@ TEST(Grouping, OfALongChainIsFound) {
     EXPECT_EQ(count_of(made_of(chain({"<<"}, 100000))), 0);
     EXPECT_EQ(count_of(made_of(chain({"<<"}, 100000) + " # n3")), 1);
     EXPECT_EQ(count_of(made_of("@ n1 + " + chain({"+", "*"}, 100000))), 1);
-    EXPECT_EQ(count_of(made_of(chain({"|", "&"}, 4000))), 1);
+    EXPECT_EQ(count_of(made_of(chain({"|", "&"}, 500))), 1);
 }
