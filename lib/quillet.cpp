@@ -43,10 +43,6 @@ int quillet_get_builder_id(const char *name) {
 
 namespace {
 
-struct builder_freed {
-    void operator()(builder *self) const { quillet_builder_free(self); }
-};
-
 // Renders the tree in root, which goes afterwards.
 build_result *render_root(builder *renderer) {
     return renderer ? quillet_call_build_main(renderer, root, nullptr) : nullptr;

@@ -27,6 +27,10 @@ inline bool is_builder(int id) { return id >= 0 && id < builder_count; }
 // Returns what the registry says of a builder, or before quillet_init the builder itself.
 const quillet_builder_info &builder_info_of(int id);
 
+struct builder_freed {
+    void operator()(builder *self) const { quillet_builder_free(self); }
+};
+
 // Builders by this library's own constructors, made when first needed and kept. Nobody but the
 // library sees them.
 class own_builders {

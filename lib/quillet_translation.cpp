@@ -83,10 +83,6 @@ struct tree_freed {
     void operator()(node_main *tree) const { quillet_node_main_free(tree); }
 };
 
-struct builder_freed {
-    void operator()(builder *self) const { quillet_builder_free(self); }
-};
-
 // The notice for a parse that has failed.
 const notice &notice_of(parse_fault fault) {
     switch (fault) {

@@ -35,11 +35,11 @@ std::string chain(const operators &names, int count) {
 }
 
 // The processor's time for a translation, in seconds; the least of three.
-double time_of(const std::string &expression) {
+double time_of(const std::string &expression, bool is_refused = false) {
     double least = 1e9;
     for (int i = 0; i < 3; ++i) {
         const std::clock_t begin = std::clock();
-        EXPECT_TRUE(made_of(expression));
+        EXPECT_EQ(!made_of(expression), is_refused);
         least = std::min(least, double(std::clock() - begin) / CLOCKS_PER_SEC);
     }
     return least;
@@ -154,6 +154,21 @@ TEST(Grouping, OfChainsTakesTimeInProportion) {
         const double more = time_of(chain(each, 100000));
         EXPECT_LT(more, 10 * some + 0.01) << each.front();
     }
+}
+
+// An operand that is refused is not looked for among all operators that stand before it.
+TEST(Grouping, OfRefusedOperandsTakesTimeInProportion) {
+    const auto items = [](int count) {
+        std::string text = "1";
+        for (int i = 0; i < count; ++i)
+            text += ", f(n1 + n2)";
+        for (int i = 0; i < count; ++i)
+            text += ", n1 ! + 1";
+        return text;
+    };
+    const double some = time_of(items(20000), true);
+    const double more = time_of(items(80000), true);
+    EXPECT_LT(more, 10 * some + 0.01);
 }
 
 TEST(Grouping, OfALongChainIsFound) {

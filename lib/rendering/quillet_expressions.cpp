@@ -84,6 +84,7 @@ node_expression *begin_expression(rendering &r, step &begun, outcome &whole) {
         whole = render_operator(r, begun.use, node, nullptr);
     } else {
         whole = r.call(own, node, nullptr);
+        r.hold_operator(node);
     }
     return nullptr;
 }

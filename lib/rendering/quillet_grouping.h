@@ -66,8 +66,8 @@ struct open_sides {
 // The operators that hang together without parentheses, up to one of them.
 struct operator_group {
     const node_expression *top = nullptr;
-    open_sides in_statement;
-    open_sides in_text;
+    open_sides in_statement = {};
+    open_sides in_text = {};
     bool statement_differs = false; // from the tree
     bool text_differs = false;
     std::uint64_t operators = 0; // which there are
@@ -78,6 +78,12 @@ class operator_groups {
 public:
     // Adds an operator and what is below it.
     void add(const node_expression *node, int index, const operator_forms &target);
+
+    // Adds an operator that has no text of its own here, so that what it is an operand of finds it.
+    void add_held(const node_expression *node) {
+        if (groups_.empty() || groups_.back().top != node)
+            groups_.push_back({.top = node});
+    }
 
     // Calls report for the top of each group that the target groups otherwise than PostgreSQL.
     template <class Report> void finish(const operator_forms &target, Report report) {

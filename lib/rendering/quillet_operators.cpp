@@ -163,8 +163,11 @@ outcome end_operator(rendering &r, operator_use use, node_expression *node, void
 
 outcome render_operator(rendering &r, operator_use use, node_expression *node, void *data) {
     const operator_rule &rule = use.rule();
-    if (rule.refusal)
-        return r.refuse(*use.home, node, rule.refusal);
+    if (rule.refusal) {
+        const outcome refused = r.refuse(*use.home, node, rule.refusal);
+        r.hold_operator(node);
+        return refused;
+    }
     if (rule.own) {
         const outcome result = rule.own(r, node, data);
         r.remark_operator(use.index, node);

@@ -37,6 +37,8 @@ rendering::~rendering() {
 }
 
 void rendering::look_for_remark_on_operator(int index, node_expression *node) {
+    if (exhausted_ != exhaustion::none) // its operands may not have been rendered
+        return;
     if (remarks_->forms)
         kept_.groups.add(node, index, *remarks_->forms);
     if (const auto known = remarks_->operators[static_cast<std::size_t>(index)])

@@ -249,6 +249,11 @@ public:
         if (remarks_) [[unlikely]]
             look_for_remark_on_operator(index, node);
     }
+    // To be called for an operator that is refused, or that a host has rendered.
+    void hold_operator(const node_expression *node) {
+        if (remarks_) [[unlikely]]
+            kept_.groups.add_held(node);
+    }
     void remark_function(int index, node_function_call *node) {
         if (remarks_) [[unlikely]]
             look_for_remark_on_function(index, node);
