@@ -1,0 +1,318 @@
+#include "splitter.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <deque>
+#include <string>
+
+#include "scanner.h"
+#include "words.h"
+
+namespace script {
+
+std::size_t scan::read_on(char *to, std::size_t room) {
+    constexpr std::size_t part = std::size_t{1} << 16;
+    if (handed == window.size()) {
+        window.erase(0, kept);
+        moved += kept;
+        begin = begin > kept ? begin - kept : 0;
+        end -= kept;
+        kept = 0;
+        const std::size_t size = window.size();
+        window.resize(size + std::max(part, size));
+        window.resize(size + from.read(window.data() + size, window.size() - size));
+        handed = size;
+    }
+    const std::size_t count = std::string_view(window).substr(handed).copy(to, room);
+    handed += count;
+    return count;
+}
+
+namespace {
+
+// What a token in a statement is a mark of, if it is one.
+struct marking {
+    token of;
+    mark_kind kind;
+};
+
+constexpr marking markings[] = {
+    {token::line_comment, mark_kind::comment},
+    {token::block_comment, mark_kind::comment},
+    {token::command, mark_kind::comment},
+    {token::string, mark_kind::string},
+    {token::escape_string, mark_kind::escape_string},
+    {token::dollar_string, mark_kind::dollar_string},
+    {token::prefixed_string, mark_kind::prefixed_string},
+    {token::question, mark_kind::question},
+    {token::dollar, mark_kind::dollar},
+    {token::named, mark_kind::named},
+    {token::format, mark_kind::format},
+    {token::pyformat, mark_kind::pyformat},
+    {token::percents, mark_kind::percents},
+};
+
+const marking *marking_of(token found) {
+    const auto *const row = std::find_if(std::begin(markings), std::end(markings),
+                                         [found](const marking &each) { return each.of == found; });
+    return row == std::end(markings) ? nullptr : row;
+}
+
+bool stands_between(token kind) {
+    return kind == token::blank || kind == token::line_comment || kind == token::block_comment ||
+           kind == token::command;
+}
+
+// The commands of psql that send what has been read of a statement.
+bool sends(std::string_view command) {
+    constexpr std::string_view senders[] = {"g",     "gx",    "gset",        "gexec",
+                                            "gdesc", "watch", "crosstabview"};
+    const std::string_view name = first_word(command.substr(1));
+    return std::find(std::begin(senders), std::end(senders), name) != std::end(senders);
+}
+
+// Whether the lines behind a \copy are its data.
+bool copies_from_input(std::string_view command) {
+    std::string_view before;
+    for (std::string_view left = command.substr(1); !left.empty();) {
+        left = without_blanks_before(left);
+        const std::string_view word = first_word(left);
+        if (is_word(before, "from") && is_word(word, "stdin"))
+            return is_word(first_word(command.substr(1)), "copy");
+        left.remove_prefix(std::min(left.size(), std::max<std::size_t>(word.size(), 1)));
+        before = word;
+    }
+    return false;
+}
+
+bool is_end_of_copy_data(std::string_view line) {
+    return line == "\\.\n" || line == "\\.\r\n" || line == "\\.";
+}
+
+// What the words of a statement tell of its end.
+class statement_words {
+public:
+    void begin() { *this = {}; }
+
+    void take(std::string_view word, std::size_t open_parentheses) {
+        if (count_ < first_.size())
+            first_[count_] = in_lower_case(word[0]);
+        ++count_;
+        if (is_function() && open_parentheses == 0) {
+            if (is_word(word, "begin") || (open_bodies_ > 0 && is_word(word, "case")))
+                ++open_bodies_;
+            else if (open_bodies_ > 0 && is_word(word, "end"))
+                --open_bodies_;
+        }
+        has_from_stdin_ |= is_behind_from_ && is_word(word, "stdin");
+        is_behind_from_ = is_word(word, "from");
+    }
+
+    // Whether it is in the body of a function, and a semicolon does not end it.
+    bool is_in_body() const { return open_bodies_ > 0; }
+
+    bool has_from_stdin() const { return has_from_stdin_; }
+
+private:
+    // CREATE [OR REPLACE] FUNCTION or PROCEDURE, told by the first letters as psql does.
+    bool is_function() const {
+        const auto is_kind = [this](std::size_t at) {
+            return first_[at] == 'f' || first_[at] == 'p';
+        };
+        return first_[0] == 'c' &&
+               (is_kind(1) || (first_[1] == 'o' && first_[2] == 'r' && is_kind(3)));
+    }
+
+    std::array<char, 4> first_{};
+    std::size_t count_ = 0;
+    std::size_t open_bodies_ = 0;
+    bool is_behind_from_ = false;
+    bool has_from_stdin_ = false;
+};
+
+} // namespace
+
+class splitter::worker {
+public:
+    worker(source &from, backslashes plain_strings)
+        : scan_(from, plain_strings), scanner_(scanner_begin(scan_)) {}
+    ~worker() { scanner_end(scanner_); }
+    worker(const worker &) = delete;
+    worker &operator=(const worker &) = delete;
+
+    const piece *next();
+
+    void set_plain_strings(backslashes meaning) { scan_.plain_strings = meaning; }
+
+private:
+    // A token that is a piece of its own, or was behind the last one of a statement. Places are
+    // those in the script, without the byte order mark.
+    struct part {
+        token kind;
+        std::size_t begin;
+        std::size_t end;
+    };
+
+    part read() {
+        const token kind = scanner_next(scanner_);
+        if (kind == token::end)
+            return {kind, scan_.moved + scan_.end, scan_.moved + scan_.end};
+        return {kind, scan_.moved + scan_.begin, scan_.moved + scan_.end};
+    }
+
+    std::string_view text_of(std::size_t begin, std::size_t end) const {
+        return std::string_view(scan_.window).substr(begin - scan_.moved, end - begin);
+    }
+
+    const piece *give(piece_kind kind, std::size_t begin, std::size_t end);
+    const piece *give(const part &given);
+    const piece *give_copy_line(const part &line);
+    const piece *read_statement(part first);
+    void mark_in_statement(const part &found, std::size_t statement);
+
+    scan scan_;
+    void *scanner_;
+    piece piece_;
+    std::size_t given_ = 0; // how far the script has been given out
+    position at_;           // the position of that
+    std::deque<part> waiting_;
+    statement_words words_;
+    bool is_behind_limit_ = false;
+    bool begins_copy_data_ = false;
+    bool is_in_copy_data_ = false;
+};
+
+const piece *splitter::worker::give(piece_kind kind, std::size_t begin, std::size_t end) {
+    at_ = at_.after(text_of(given_, begin));
+    piece_.kind = kind;
+    piece_.text = text_of(begin, end);
+    piece_.begin = at_;
+    piece_.offset = begin;
+    at_ = at_.after(piece_.text);
+    given_ = end;
+    return &piece_;
+}
+
+const piece *splitter::worker::give(const part &given) {
+    switch (given.kind) {
+    case token::line_comment: return give(piece_kind::line_comment, given.begin, given.end);
+    case token::block_comment: return give(piece_kind::block_comment, given.begin, given.end);
+    case token::command:
+        if (copies_from_input(text_of(given.begin, given.end)))
+            scanner_expect_copy_data(scanner_, begins_copy_data_ = is_in_copy_data_ = true);
+        return give(piece_kind::command, given.begin, given.end);
+    default: return give(piece_kind::blank, given.begin, given.end);
+    }
+}
+
+// A line of the data; what is left of the line before it comes first.
+const piece *splitter::worker::give_copy_line(const part &line) {
+    const std::string_view text = text_of(line.begin, line.end);
+    const bool is_head = begins_copy_data_;
+    begins_copy_data_ = false;
+    if (!is_head && is_end_of_copy_data(text))
+        scanner_expect_copy_data(scanner_, is_in_copy_data_ = false);
+    const bool is_blank_line = std::all_of(text.begin(), text.end(), is_blank);
+    return give(is_head && is_blank_line ? piece_kind::blank : piece_kind::copy_data, line.begin,
+                line.end);
+}
+
+void splitter::worker::mark_in_statement(const part &found, std::size_t statement) {
+    const marking *const row = marking_of(found.kind);
+    if (!row)
+        return;
+    const bool is_string = found.kind == token::string || found.kind == token::prefixed_string;
+    piece_.marks.push_back({row->kind, found.begin - statement, found.end - statement,
+                            is_string && scan_.is_plain, is_behind_limit_});
+}
+
+const piece *splitter::worker::read_statement(part first) {
+    piece_.marks.clear();
+    piece_.verb = {};
+    piece_.is_ended_by_command = false;
+    words_.begin();
+    is_behind_limit_ = false;
+
+    const std::size_t begin = first.begin;
+    std::size_t end = first.begin;
+    std::size_t verb_size = 0;
+    std::size_t open = 0;
+    part found = first;
+    for (;; found = read()) {
+        if (found.kind == token::end)
+            break;
+        if (found.kind == token::semicolon && open == 0 && !words_.is_in_body())
+            break;
+        if (found.kind == token::command && sends(text_of(found.begin, found.end))) {
+            piece_.is_ended_by_command = true;
+            break;
+        }
+        if (stands_between(found.kind)) {
+            waiting_.push_back(found);
+            continue;
+        }
+        for (const part &inside : waiting_)
+            mark_in_statement(inside, begin);
+        waiting_.clear();
+        mark_in_statement(found, begin);
+        end = found.end;
+        is_behind_limit_ = false;
+        if (found.kind == token::word) {
+            const std::string_view word = text_of(found.begin, found.end);
+            words_.take(word, open);
+            is_behind_limit_ = is_word(word, "limit") || is_word(word, "offset");
+            if (found.begin == begin)
+                verb_size = word.size();
+        } else if (found.kind == token::open) {
+            ++open;
+        } else if (found.kind == token::close && open > 0) {
+            --open;
+        }
+    }
+    // Blanks before the semicolon go, comments before it come behind it.
+    if (found.kind == token::semicolon &&
+        std::all_of(waiting_.begin(), waiting_.end(),
+                    [](const part &each) { return each.kind == token::blank; }))
+        waiting_.clear();
+    if (found.kind == token::command)
+        waiting_.push_back(found);
+    const piece *const made = give(piece_kind::statement, begin, end);
+    piece_.verb = piece_.text.substr(0, verb_size);
+    if (found.kind == token::semicolon && is_word(piece_.verb, "copy") && words_.has_from_stdin())
+        scanner_expect_copy_data(scanner_, begins_copy_data_ = is_in_copy_data_ = true);
+    return made;
+}
+
+const piece *splitter::worker::next() {
+    for (;;) {
+        if (!waiting_.empty()) {
+            const part first = waiting_.front();
+            waiting_.pop_front();
+            return give(first);
+        }
+        scan_.kept = given_ - scan_.moved;
+        const part found = read();
+        switch (found.kind) {
+        case token::end: return nullptr;
+        case token::copy_line: return give_copy_line(found);
+        case token::blank:
+        case token::line_comment:
+        case token::block_comment:
+        case token::command: return give(found);
+        case token::semicolon: break; // an empty statement
+        default: return read_statement(found);
+        }
+    }
+}
+
+splitter::splitter(source &from, backslashes plain_strings)
+    : worker_(std::make_unique<worker>(from, plain_strings)) {}
+
+splitter::~splitter() = default;
+
+const piece *splitter::next() { return worker_->next(); }
+
+void splitter::set_plain_strings(backslashes meaning) { worker_->set_plain_strings(meaning); }
+
+} // namespace script
