@@ -12,14 +12,11 @@
 
 namespace script {
 
+// Those that are marks of a statement come first.
 enum class token {
-    end,
-    blank,
     line_comment,
     block_comment,
     command,
-    copy_line,
-    word,
     string,
     escape_string,
     dollar_string,
@@ -30,6 +27,9 @@ enum class token {
     format,
     pyformat,
     percents,
+    end,
+    copy_line,
+    word,
     semicolon,
     open,
     close,

@@ -31,37 +31,18 @@ std::size_t scan::read_on(char *to, std::size_t room) {
 
 namespace {
 
-// What a token in a statement is a mark of, if it is one.
-struct marking {
-    token of;
-    mark_kind kind;
+// What the tokens are marks of, in their order.
+constexpr mark_kind mark_kinds[] = {
+    mark_kind::comment,         mark_kind::comment,       mark_kind::comment,
+    mark_kind::string,          mark_kind::escape_string, mark_kind::dollar_string,
+    mark_kind::prefixed_string, mark_kind::question,      mark_kind::dollar,
+    mark_kind::named,           mark_kind::format,        mark_kind::pyformat,
+    mark_kind::percents,
 };
-
-constexpr marking markings[] = {
-    {token::line_comment, mark_kind::comment},
-    {token::block_comment, mark_kind::comment},
-    {token::command, mark_kind::comment},
-    {token::string, mark_kind::string},
-    {token::escape_string, mark_kind::escape_string},
-    {token::dollar_string, mark_kind::dollar_string},
-    {token::prefixed_string, mark_kind::prefixed_string},
-    {token::question, mark_kind::question},
-    {token::dollar, mark_kind::dollar},
-    {token::named, mark_kind::named},
-    {token::format, mark_kind::format},
-    {token::pyformat, mark_kind::pyformat},
-    {token::percents, mark_kind::percents},
-};
-
-const marking *marking_of(token found) {
-    const auto *const row = std::find_if(std::begin(markings), std::end(markings),
-                                         [found](const marking &each) { return each.of == found; });
-    return row == std::end(markings) ? nullptr : row;
-}
+static_assert(std::size(mark_kinds) == static_cast<std::size_t>(token::end));
 
 bool stands_between(token kind) {
-    return kind == token::blank || kind == token::line_comment || kind == token::block_comment ||
-           kind == token::command;
+    return kind == token::line_comment || kind == token::block_comment || kind == token::command;
 }
 
 // The commands of psql that send what has been read of a statement.
@@ -96,6 +77,8 @@ public:
     void begin() { *this = {}; }
 
     void take(std::string_view word, std::size_t open_parentheses) {
+        if (count_ > 0 && first_[0] != 'c')
+            return; // no CREATE, no COPY
         if (count_ < first_.size())
             first_[count_] = in_lower_case(word[0]);
         ++count_;
@@ -169,6 +152,7 @@ private:
     const piece *give(const part &given);
     const piece *give_copy_line(const part &line);
     const piece *read_statement(part first);
+    void drop_to(std::size_t end);
     void mark_in_statement(const part &found, std::size_t statement);
 
     scan scan_;
@@ -180,29 +164,35 @@ private:
     statement_words words_;
     bool is_behind_limit_ = false;
     bool begins_copy_data_ = false;
-    bool is_in_copy_data_ = false;
 };
 
 const piece *splitter::worker::give(piece_kind kind, std::size_t begin, std::size_t end) {
-    at_ = at_.after(text_of(given_, begin));
     piece_.kind = kind;
     piece_.text = text_of(begin, end);
     piece_.begin = at_;
     piece_.offset = begin;
-    at_ = at_.after(piece_.text);
-    given_ = end;
+    drop_to(end);
     return &piece_;
 }
 
+// Goes on behind a text that is no piece, or is one now.
+void splitter::worker::drop_to(std::size_t end) {
+    at_ = at_.after(text_of(given_, end));
+    given_ = end;
+}
+
+// The piece of a part that stands where the last one has ended; NULL at the end.
 const piece *splitter::worker::give(const part &given) {
     switch (given.kind) {
+    case token::end: return nullptr;
     case token::line_comment: return give(piece_kind::line_comment, given.begin, given.end);
     case token::block_comment: return give(piece_kind::block_comment, given.begin, given.end);
+    case token::copy_line: return give_copy_line(given);
     case token::command:
         if (copies_from_input(text_of(given.begin, given.end)))
-            scanner_expect_copy_data(scanner_, begins_copy_data_ = is_in_copy_data_ = true);
+            scanner_expect_copy_data(scanner_, begins_copy_data_ = true);
         return give(piece_kind::command, given.begin, given.end);
-    default: return give(piece_kind::blank, given.begin, given.end);
+    default: return read_statement(given);
     }
 }
 
@@ -212,36 +202,33 @@ const piece *splitter::worker::give_copy_line(const part &line) {
     const bool is_head = begins_copy_data_;
     begins_copy_data_ = false;
     if (!is_head && is_end_of_copy_data(text))
-        scanner_expect_copy_data(scanner_, is_in_copy_data_ = false);
+        scanner_expect_copy_data(scanner_, false);
     const bool is_blank_line = std::all_of(text.begin(), text.end(), is_blank);
     return give(is_head && is_blank_line ? piece_kind::blank : piece_kind::copy_data, line.begin,
                 line.end);
 }
 
 void splitter::worker::mark_in_statement(const part &found, std::size_t statement) {
-    const marking *const row = marking_of(found.kind);
-    if (!row)
+    const auto index = static_cast<std::size_t>(found.kind);
+    if (index >= std::size(mark_kinds))
         return;
     const bool is_string = found.kind == token::string || found.kind == token::prefixed_string;
-    piece_.marks.push_back({row->kind, found.begin - statement, found.end - statement,
+    piece_.marks.push_back({mark_kinds[index], found.begin - statement, found.end - statement,
                             is_string && scan_.is_plain, is_behind_limit_});
 }
 
 const piece *splitter::worker::read_statement(part first) {
     piece_.marks.clear();
-    piece_.verb = {};
     piece_.is_ended_by_command = false;
     words_.begin();
     is_behind_limit_ = false;
 
     const std::size_t begin = first.begin;
-    std::size_t end = first.begin;
+    std::size_t end = begin;
     std::size_t verb_size = 0;
     std::size_t open = 0;
     part found = first;
-    for (;; found = read()) {
-        if (found.kind == token::end)
-            break;
+    for (; found.kind != token::end; found = read()) {
         if (found.kind == token::semicolon && open == 0 && !words_.is_in_body())
             break;
         if (found.kind == token::command && sends(text_of(found.begin, found.end))) {
@@ -270,39 +257,32 @@ const piece *splitter::worker::read_statement(part first) {
             --open;
         }
     }
-    // Blanks before the semicolon go, comments before it come behind it.
-    if (found.kind == token::semicolon &&
-        std::all_of(waiting_.begin(), waiting_.end(),
-                    [](const part &each) { return each.kind == token::blank; }))
-        waiting_.clear();
-    if (found.kind == token::command)
-        waiting_.push_back(found);
+    const bool has_semicolon = found.kind == token::semicolon;
     const piece *const made = give(piece_kind::statement, begin, end);
     piece_.verb = piece_.text.substr(0, verb_size);
-    if (found.kind == token::semicolon && is_word(piece_.verb, "copy") && words_.has_from_stdin())
-        scanner_expect_copy_data(scanner_, begins_copy_data_ = is_in_copy_data_ = true);
+    // Blanks before the semicolon go with it; comments before it come behind it.
+    if (has_semicolon && waiting_.empty())
+        drop_to(found.end);
+    else
+        waiting_.push_back(found);
+    if (has_semicolon && is_word(piece_.verb, "copy") && words_.has_from_stdin())
+        scanner_expect_copy_data(scanner_, begins_copy_data_ = true);
     return made;
 }
 
 const piece *splitter::worker::next() {
     for (;;) {
-        if (!waiting_.empty()) {
-            const part first = waiting_.front();
-            waiting_.pop_front();
+        if (waiting_.empty()) {
+            scan_.kept = given_ - scan_.moved;
+            waiting_.push_back(read());
+        }
+        const part first = waiting_.front();
+        if (first.begin > given_)
+            return give(piece_kind::blank, given_, first.begin);
+        waiting_.pop_front();
+        if (first.kind != token::semicolon)
             return give(first);
-        }
-        scan_.kept = given_ - scan_.moved;
-        const part found = read();
-        switch (found.kind) {
-        case token::end: return nullptr;
-        case token::copy_line: return give_copy_line(found);
-        case token::blank:
-        case token::line_comment:
-        case token::block_comment:
-        case token::command: return give(found);
-        case token::semicolon: break; // an empty statement
-        default: return read_statement(found);
-        }
+        drop_to(first.end); // an empty statement, or what has ended one before comments
     }
 }
 

@@ -47,8 +47,8 @@ bool has_text(const translation &made, bool is_strict) {
     });
 }
 
-// Whether a string's escapes are the same in MySQL, and what the library remarks on its backslashes, which
-// it takes for characters, does not hold.
+// Whether a string's escapes are the same in MySQL, and what the library remarks on its
+// backslashes, which it takes for characters, does not hold.
 bool has_common_escapes(std::string_view string) {
     constexpr std::string_view common = "\\'nrtb";
     for (std::size_t at = string.find('\\'); at != std::string_view::npos;
