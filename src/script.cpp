@@ -108,9 +108,9 @@ private:
 
     void say_summary() {
         std::string line = summary_.line();
-        if (messages_.unsaid_notes() > 0)
-            line += "; " + std::to_string(messages_.unsaid_notes()) +
-                    " more notes (--notes shows each)";
+        if (const std::size_t more = messages_.unsaid_notes(); more > 0)
+            line += "; " + std::to_string(more) + (more == 1 ? " more note" : " more notes") +
+                    " (--notes shows each)";
         messages_.say(line);
     }
 

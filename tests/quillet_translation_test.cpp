@@ -6,6 +6,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -347,6 +348,26 @@ constexpr std::pair<const char *, int> refused_statements[] = {
     {"select date_trunc('day', interval '1 day')", -37},
     {"insert into t values (default)", -38},
 };
+
+TEST(Translation, WhatMayBeSaidIsKnown) {
+    std::map<std::string, quillet_diagnostic> known;
+    quillet_diagnostic each{};
+    std::size_t count = 0;
+    for (; quillet_get_known_diagnostic(count, &each) == 1; ++count)
+        known.emplace(each.id, each);
+    EXPECT_EQ(count, 18U + 9U + 61U + 39U); // of any builder, postgresql, mysql; refusals of mysql
+    EXPECT_EQ(quillet_get_known_diagnostic(count + 1, &each), 0);
+
+    EXPECT_EQ(known.at("syntax-error").severity, QUILLET_ERROR);
+    EXPECT_EQ(known.at("syntax-error").message, nullptr);
+    EXPECT_EQ(known.at("text-form").severity, QUILLET_NOTE);
+    EXPECT_EQ(known.at("distinct-on").severity, QUILLET_WARNING);
+    const quillet_diagnostic &initcap = known.at("refused-initcap");
+    EXPECT_EQ(initcap.severity, QUILLET_REFUSAL);
+    EXPECT_EQ(initcap.code, -11);
+    EXPECT_STREQ(initcap.message, "INITCAP function not implemented in MySQL backend");
+    EXPECT_STREQ(initcap.hint, "write upper(substr(x, 1, 1)) || lower(substr(x, 2)) for one word");
+}
 
 TEST(Translation, EveryReasonIsSaidAsItIsRequired) {
     for (const auto &[statement, code] : refused_statements) {

@@ -76,6 +76,14 @@ QUILLET_API quillet_translation *quillet_translate(const char *statement, size_t
 /* Frees a translation with its text and its diagnostics. NULL does nothing. */
 QUILLET_API void quillet_translation_free(quillet_translation *translation);
 
+/*
+ * Stores one of all diagnostics that the library's builders may give, by an index from 0, and
+ * returns 1; returns 0 after the last one. It has no place, and no message (NULL) where that
+ * depends on the statement; its texts are static ones. An id may come again with another message.
+ * May be called from any thread.
+ */
+QUILLET_API int32_t quillet_get_known_diagnostic(size_t index, quillet_diagnostic *found);
+
 /* Makes the library ready; to be called before anything but quillet_translate. Calling it again
    does no harm. */
 QUILLET_API void quillet_init(void);

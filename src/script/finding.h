@@ -45,6 +45,9 @@ constexpr own_finding misread_string = {
     "misread-string", quillet::severity::error,
     "a string that ends with a backslash, which would take its closing quote away",
     "write '...' || chr(92)"};
+constexpr own_finding unknown_escape = {"unknown-escape", quillet::severity::error,
+                                        "an escape that stands for no character",
+                                        "write two backslashes for one"};
 constexpr own_finding misplaced_placeholder = {
     "misplaced-placeholder", quillet::severity::error,
     "a placeholder where no expression may stand",
@@ -61,6 +64,11 @@ constexpr own_finding not_json = {"not-json", quillet::severity::error,
 constexpr own_finding not_one_statement = {"not-one-statement", quillet::severity::error,
                                            "more than one statement, or none",
                                            "write an object a statement"};
+
+constexpr const own_finding *own_findings[] = {
+    &copied_statement, &comment_dropped,       &psql_command, &misread_string,
+    &unknown_escape,   &misplaced_placeholder, &not_utf8,     &unended_comment,
+    &not_json,         &not_one_statement};
 
 inline std::string_view name_of(quillet::severity severity) {
     switch (severity) {

@@ -5,6 +5,8 @@
 #include <iostream>
 #include <map>
 
+#include "finding.h"
+
 namespace script {
 
 namespace {
@@ -28,6 +30,17 @@ void add_each(CLI::App &app, const std::string &name, const std::string &type,
         ->type_name(type);
 }
 
+bool is_known_id(const std::string &id) {
+    for (const own_finding *own : own_findings)
+        if (own->id == id)
+            return true;
+    quillet_diagnostic known{};
+    for (std::size_t i = 0; quillet_get_known_diagnostic(i, &known) == 1; ++i)
+        if (known.id == id)
+            return true;
+    return false;
+}
+
 void choose_remarks(wanted_remarks &remarks, const std::string &what, bool is_wanted) {
     if (what == "all")
         remarks.set_all(is_wanted, is_wanted);
@@ -35,8 +48,10 @@ void choose_remarks(wanted_remarks &remarks, const std::string &what, bool is_wa
         remarks.set_all(true, false);
     else if (what == "none" && is_wanted)
         remarks.set_all(false, false);
-    else
+    else if (is_known_id(what))
         remarks.set(what, is_wanted);
+    else
+        throw CLI::ValidationError(is_wanted ? "--warn" : "--no-warn", "no such id: " + what);
 }
 
 } // namespace

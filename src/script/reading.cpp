@@ -61,7 +61,8 @@ reading::reading(const piece &statement, placeholder_style style, backslashes pl
     }
     if (has_edits())
         text_.append(source_.substr(copied_));
-    find_misread_string(statement);
+    if (!misread_)
+        find_misread_string(statement);
 }
 
 void reading::choose_stand_ins() {
@@ -106,6 +107,8 @@ void reading::replace_mark(const mark &found) {
             replace_string(found, inside_of(text, 2));
         else if (const auto value = value_of_escape_string(text))
             replace_string(found, with_stand_in(*value));
+        else if (text.size() > 2 && text.back() == '\'')
+            misread_ = fault{&unknown_escape, {found.begin, found.end}};
         break;
     case mark_kind::dollar_string:
         if (const auto value = value_of_dollar_string(text))
@@ -183,7 +186,7 @@ void reading::find_misread_string(const piece &statement) {
         else if (next > 0)
             end = each.end - edits_[next - 1].source.end + edits_[next - 1].text.end;
         if (end >= 2 && read[end - 1] == '\'' && read[end - 2] == '\\' && end - 1 < last_quote) {
-            misread_ = place{each.begin, each.end};
+            misread_ = fault{&misread_string, {each.begin, each.end}};
             return;
         }
     }

@@ -15,6 +15,7 @@
 #include <string_view>
 #include <vector>
 
+#include "finding.h"
 #include "placeholders.h"
 #include "splitter.h"
 
@@ -46,9 +47,12 @@ public:
     bool has_stand_in(std::string_view message) const;
     std::string in_message(std::string_view message) const;
 
-    // The place in the statement of a string that ends with a backslash, if the library would take
-    // the quote behind it for a part of the string.
-    std::optional<place> misread_string() const { return misread_; }
+    // The place in the statement of a string that the library would read otherwise, and why.
+    struct fault {
+        const own_finding *what;
+        place where;
+    };
+    std::optional<fault> misread() const { return misread_; }
 
     bool has_edits() const { return !edits_.empty(); }
 
@@ -81,7 +85,7 @@ private:
     std::string name_;   // what the names of calls begin with
     std::string number_; // what numbers begin with
     char quote_ = 0;
-    std::optional<place> misread_;
+    std::optional<fault> misread_;
 };
 
 } // namespace script

@@ -43,7 +43,7 @@ public:
         case piece_kind::command: write_command(other.text); break;
         case piece_kind::blank:
             learn_newline(other.text);
-            put(end_comment(other.text));
+            put_blanks(end_comment(other.text));
             break;
         default: put(other.text); break;
         }
@@ -52,6 +52,7 @@ public:
 
     void end_file() override {
         end_comment({});
+        waiting_blanks_.clear();
         if (!is_at_line_start_)
             put(newline_);
     }
@@ -62,11 +63,21 @@ private:
     void put(std::string_view text) {
         if (text.empty())
             return;
+        if (text != newline_)
+            to_.write(waiting_blanks_);
+        waiting_blanks_.clear();
         to_.write(text);
         const std::size_t line = text.rfind('\n');
         const std::string_view last = line == std::string_view::npos ? text : text.substr(line + 1);
         const bool is_blank_line = std::all_of(last.begin(), last.end(), is_blank);
         is_at_line_start_ = is_blank_line && (line != std::string_view::npos || is_at_line_start_);
+    }
+
+    // Those at the end are written when something follows on their line.
+    void put_blanks(std::string_view text) {
+        const std::size_t line = text.rfind('\n') + 1; // 0 without one
+        put(text.substr(0, line));
+        waiting_blanks_.append(text.substr(line));
     }
 
     // Statements and commands that became comments end with their line. Returns what is left to
@@ -150,6 +161,7 @@ private:
 
     output &to_;
     quillet::target target_;
+    std::string waiting_blanks_;
     std::string_view newline_ = "\n";
     bool has_newline_ = false;
     bool is_at_line_start_ = true;

@@ -72,6 +72,18 @@ void locate(std::vector<finding> &findings, std::string_view text, position begi
     }
 }
 
+// What the library advises is not meant for scripts, where '' is a quote and statements end by
+// themselves.
+std::optional<std::string_view> hint_for_script(const quillet::diagnostic &said, char begin) {
+    if (said.id == "unended-string")
+        return "end it with a quote; a quote within a string is written twice";
+    if (said.hint && said.id == "syntax-error" && begin == '\'')
+        return "write || between strings, and a quote within a string twice";
+    if (said.hint && said.id == "syntax-error" && begin == ';')
+        return "close the parentheses before the end of the statement";
+    return said.hint;
+}
+
 // Keeps the findings in the order of their places.
 void add(translation &made, finding added) {
     const auto later = std::upper_bound(
@@ -152,6 +164,8 @@ finding translator::make_finding_of(const quillet::diagnostic &said, translation
     }
     if (said.severity != quillet::severity::error)
         return found;
+    if (found.offset < statement.text.size())
+        found.hint = hint_for_script(said, statement.text[found.offset]);
     if (read.is_in_placeholder(said.offset))
         return make_finding(misplaced_placeholder, found.offset, found.length);
     if (const placeholder_row *row = unexpected_placeholder(statement, found.offset))
@@ -162,8 +176,9 @@ finding translator::make_finding_of(const quillet::diagnostic &said, translation
 
 void translator::find_all(translation &made, const piece &statement, const reading &read,
                           backslashes plain_strings) const {
-    if (const auto string = read.misread_string()) { // the library has read something else
-        add(made, make_finding(misread_string, string->begin, string->end - string->begin));
+    if (const auto fault = read.misread()) { // the library has read something else
+        add(made,
+            make_finding(*fault->what, fault->where.begin, fault->where.end - fault->where.begin));
         made.code = QUILLET_INVALID_QUERY;
         return;
     }
