@@ -78,8 +78,8 @@ std::optional<std::string_view> hint_for_script(const quillet::diagnostic &said,
     if (said.id == "unended-string")
         return "end it with a quote; a quote within a string is written twice";
     if (said.hint && said.id == "syntax-error" && begin == '\'')
-        return "write || between strings, and a quote within a string twice";
-    if (said.hint && said.id == "syntax-error" && begin == ';')
+        return "write the string without the letter before it"; // N'it''s'
+    if (said.id == "syntax-error" && begin == ';')
         return "close the parentheses before the end of the statement";
     return said.hint;
 }
