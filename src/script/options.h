@@ -12,32 +12,11 @@
 
 #include "placeholders.h"
 #include "splitter.h"
+#include "wanted_remarks.h"
 
 namespace script {
 
 enum class format { sql, json };
-
-// Which warnings and notes are wanted. The last word on an id or on all holds.
-class wanted_remarks {
-public:
-    void set_all(bool warnings, bool notes);
-    void set(const std::string &id, bool is_wanted);
-
-    bool has(quillet::severity severity, std::string_view id) const;
-
-    // The least severity that anything wanted may have.
-    quillet::severity least() const;
-
-private:
-    struct choice {
-        std::string id;
-        bool is_wanted;
-    };
-
-    bool warnings_ = true;
-    bool notes_ = true;
-    std::vector<choice> choices_;
-};
 
 struct options {
     std::vector<std::string> files; // "-" is standard input

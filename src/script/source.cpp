@@ -10,7 +10,7 @@
 namespace script {
 
 file_error file_error::of(const std::string &name) {
-    return file_error(name + ": " + std::strerror(errno));
+    return file_error{name + ": " + std::strerror(errno)};
 }
 
 file_source::file_source(const std::string &name)

@@ -85,11 +85,35 @@ std::optional<std::string_view> hint_for_script(const quillet::diagnostic &said,
 }
 
 // Keeps the findings in the order of their places.
-void add(translation &made, finding added) {
+void add(translation &made, const finding &added) {
     const auto later = std::upper_bound(
         made.findings.begin(), made.findings.end(), added.offset,
         [](std::size_t place, const finding &each) { return place < each.offset; });
-    made.findings.insert(later, std::move(added));
+    made.findings.insert(later, added);
+}
+
+// What the library says, about the statement as it stands in the script.
+finding make_finding_of(const quillet::diagnostic &said, translation &made, const piece &statement,
+                        const reading &read) {
+    finding found{said.severity, said.code,   said.id,     said.message,
+                  said.hint,     said.offset, said.length, {}};
+    if (read.has_edits()) {
+        const reading::place at = read.in_statement(said.offset, said.offset + said.length);
+        found.offset = at.begin;
+        found.length = at.end - at.begin;
+        if (read.has_stand_in(said.message))
+            found.message = made.texts.emplace_back(read.in_message(said.message));
+    }
+    if (said.severity != quillet::severity::error)
+        return found;
+    if (found.offset < statement.text.size())
+        found.hint = hint_for_script(said, statement.text[found.offset]);
+    if (read.is_in_placeholder(said.offset))
+        return make_finding(misplaced_placeholder, found.offset, found.length);
+    if (const placeholder_row *row = unexpected_placeholder(statement, found.offset))
+        found.hint = made.texts.emplace_back("for a placeholder, choose --placeholders=" +
+                                             std::string(row->name));
+    return found;
 }
 
 } // namespace
@@ -148,30 +172,6 @@ translator::translator(const options &asked)
     limits_.least_severity = asked.remarks.least();
     if (asked.is_strict && limits_.least_severity > quillet::severity::warning)
         limits_.least_severity = quillet::severity::warning;
-}
-
-// What the library says, about the statement as it stands in the script.
-finding translator::make_finding_of(const quillet::diagnostic &said, translation &made,
-                                    const piece &statement, const reading &read) const {
-    finding found{said.severity, said.code,   said.id,     said.message,
-                  said.hint,     said.offset, said.length, {}};
-    if (read.has_edits()) {
-        const reading::place at = read.in_statement(said.offset, said.offset + said.length);
-        found.offset = at.begin;
-        found.length = at.end - at.begin;
-        if (read.has_stand_in(said.message))
-            found.message = made.texts.emplace_back(read.in_message(said.message));
-    }
-    if (said.severity != quillet::severity::error)
-        return found;
-    if (found.offset < statement.text.size())
-        found.hint = hint_for_script(said, statement.text[found.offset]);
-    if (read.is_in_placeholder(said.offset))
-        return make_finding(misplaced_placeholder, found.offset, found.length);
-    if (const placeholder_row *row = unexpected_placeholder(statement, found.offset))
-        found.hint = made.texts.emplace_back("for a placeholder, choose --placeholders=" +
-                                             std::string(row->name));
-    return found;
 }
 
 void translator::find_all(translation &made, const piece &statement, const reading &read,

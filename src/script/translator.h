@@ -49,8 +49,6 @@ public:
 private:
     void find_all(translation &made, const piece &statement, const reading &read,
                   backslashes plain_strings) const;
-    finding make_finding_of(const quillet::diagnostic &said, translation &made,
-                            const piece &statement, const reading &read) const;
 
     const options &asked_;
     quillet::target target_;

@@ -1,0 +1,47 @@
+#include "wanted_remarks.h"
+
+#include <algorithm>
+
+#include "finding.h"
+
+namespace script {
+
+bool is_known_id(std::string_view id) {
+    for (const own_finding *own : own_findings)
+        if (own->id == id)
+            return true;
+    quillet_diagnostic known{};
+    for (std::size_t i = 0; quillet_get_known_diagnostic(i, &known) == 1; ++i)
+        if (known.id == id)
+            return true;
+    return false;
+}
+
+void wanted_remarks::set_all(bool warnings, bool notes) {
+    warnings_ = warnings;
+    notes_ = notes;
+    choices_.clear();
+}
+
+void wanted_remarks::set(const std::string &id, bool is_wanted) {
+    choices_.push_back({id, is_wanted});
+}
+
+bool wanted_remarks::has(quillet::severity severity, std::string_view id) const {
+    const auto last = std::find_if(choices_.rbegin(), choices_.rend(),
+                                   [id](const choice &each) { return each.id == id; });
+    if (last != choices_.rend())
+        return last->is_wanted;
+    return severity == quillet::severity::warning ? warnings_ : notes_;
+}
+
+quillet::severity wanted_remarks::least() const {
+    bool has_choice = false;
+    for (const choice &each : choices_)
+        has_choice |= each.is_wanted;
+    return notes_ || has_choice ? quillet::severity::note
+           : warnings_          ? quillet::severity::warning
+                                : quillet::severity::refusal;
+}
+
+} // namespace script
