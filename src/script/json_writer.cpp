@@ -1,29 +1,31 @@
-#include <nlohmann/json.hpp>
-
+#include "json_text.h"
 #include "writer.h"
 
 namespace script {
 
 namespace {
 
-using json = nlohmann::ordered_json;
+long long number(std::size_t count) { return static_cast<long long>(count); }
 
-json parameter_of(const placeholder &taken) {
+void write_parameter(json_text &to, const placeholder &taken) {
     if (taken.name.empty())
-        return taken.number;
-    return taken.name;
+        to.value(number(taken.number));
+    else
+        to.value(taken.name);
 }
 
-json object_of(const finding &found) {
-    return {{"severity", name_of(found.severity)},
-            {"id", found.id},
-            {"code", found.code},
-            {"message", found.message},
-            {"hint", found.hint ? json(*found.hint) : json()},
-            {"line", found.at.line},
-            {"column", found.at.column},
-            {"offset", found.offset},
-            {"length", found.length}};
+void write_finding(json_text &to, const finding &found) {
+    to.open('{');
+    to.key("severity").value(name_of(found.severity));
+    to.key("id").value(found.id);
+    to.key("code").value(found.code);
+    to.key("message").value(found.message);
+    to.key("hint").value_or_null(found.hint);
+    to.key("line").value(number(found.at.line));
+    to.key("column").value(number(found.at.column));
+    to.key("offset").value(number(found.offset));
+    to.key("length").value(number(found.length));
+    to.close('}');
 }
 
 class json_writer final : public writer {
@@ -47,23 +49,27 @@ private:
 
 std::string json_line(const std::string &file, const std::string &builder, const piece &statement,
                       const translation &made, const std::string &id) {
-    json object;
+    std::string line;
+    json_text to(line);
+    to.open('{');
     if (!id.empty())
-        object["id"] = json::parse(id);
-    object["file"] = file;
-    object["line"] = statement.begin.line;
-    object["column"] = statement.begin.column;
-    object["statement"] = statement.text;
-    object["builder"] = builder;
-    object["code"] = made.code;
-    object["text"] = made.text ? json(*made.text) : json();
-    object["parameters"] = json::array();
+        to.key("id").raw(id);
+    to.key("file").value(file);
+    to.key("line").value(number(statement.begin.line));
+    to.key("column").value(number(statement.begin.column));
+    to.key("statement").value(statement.text);
+    to.key("builder").value(builder);
+    to.key("code").value(made.code);
+    to.key("text").value_or_null(made.text);
+    to.key("parameters").open('[');
     for (const placeholder &each : made.parameters)
-        object["parameters"].push_back(parameter_of(each));
-    object["diagnostics"] = json::array();
+        write_parameter(to, each);
+    to.close(']').key("diagnostics").open('[');
     for (const finding &each : made.findings)
-        object["diagnostics"].push_back(object_of(each));
-    return object.dump(-1, ' ', false, json::error_handler_t::replace) + "\n";
+        write_finding(to, each);
+    to.close(']').close('}');
+    line.push_back('\n');
+    return line;
 }
 
 std::unique_ptr<writer> make_json_writer(output &to, const options &asked) {
