@@ -45,7 +45,7 @@ def test_others_run_while_a_thread_translates() -> None:
     while made.is_alive():
         time.sleep(0.001)
         steps += 1
-    assert steps > 20  # with the interpreter locked it is a few
+    assert steps > 10  # with the interpreter locked it is a few
 
 
 @pytest.mark.parametrize("method", ["fork", "spawn"])
