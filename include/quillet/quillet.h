@@ -32,8 +32,8 @@ extern "C" {
 
 /* The codes of a translation; a builder's own failure is one of them too. */
 enum {
-    QUILLET_SUCCESS = 0,
-    QUILLET_NO_SUCH_BUILDER = -1,
+    QUILLET_SUCCESS = 0,          /* there is a text */
+    QUILLET_NO_SUCH_BUILDER = -1, /* no builder has the id */
     QUILLET_INVALID_QUERY = -2, /* a syntax error, or a part missing that the construct requires */
     QUILLET_CAN_NOT_TRANSLATE = -3 /* the builder has no equal for a construct; too deep, too large,
                                       or no memory */
@@ -41,10 +41,10 @@ enum {
 
 /* What became of a statement. */
 typedef struct quillet_translation {
-    int32_t code;       /* as quillet_translate_query returns it */
-    char *text;         /* ends with a NUL; NULL without a translation */
-    size_t text_length; /* without that NUL; 0 without a translation */
-    size_t diagnostic_count;
+    int32_t code;                    /* as quillet_translate_query returns it */
+    char *text;                      /* ends with a NUL; NULL without a translation */
+    size_t text_length;              /* without that NUL; 0 without a translation */
+    size_t diagnostic_count;         /* 0 if there is nothing to say */
     quillet_diagnostic *diagnostics; /* in the order of their places; NULL if there are none */
 } quillet_translation;
 

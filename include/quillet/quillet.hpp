@@ -28,14 +28,19 @@
 namespace quillet {
 
 // The builders, by their ids.
-enum class target : int { postgresql = 0, mysql = 1, tree = 2, type_view = 3 };
+enum class target : int {
+    postgresql = 0, // the statement in one canonical form
+    mysql = 1,      // MySQL 4.1
+    tree = 2,       // the parse tree, a node a line
+    type_view = 3   // PostgreSQL text with the type of every expression
+};
 
 // How much a diagnostic matters, in rising order.
 enum class severity : std::int32_t {
-    note = QUILLET_NOTE,
-    warning = QUILLET_WARNING,
-    refusal = QUILLET_REFUSAL,
-    error = QUILLET_ERROR
+    note = QUILLET_NOTE,       // the target may answer otherwise
+    warning = QUILLET_WARNING, // the target answers otherwise, or rejects the text
+    refusal = QUILLET_REFUSAL, // the builder has no equal for a construct
+    error = QUILLET_ERROR      // the statement is wrong, or too large
 };
 
 // What may be asked of a translation; 0 is the library's own limit.
@@ -47,6 +52,7 @@ struct options {
 
 // What there is to say about a part of a statement. The texts belong to the translation.
 struct diagnostic {
+    // The same as a value; its texts are those of the argument.
     explicit diagnostic(const quillet_diagnostic &of) noexcept
         : severity(static_cast<quillet::severity>(of.severity)), code(of.code), id(of.id),
           message(of.message), offset(of.offset), length(of.length), line(of.line),
@@ -55,14 +61,15 @@ struct diagnostic {
             hint = of.hint;
     }
 
-    quillet::severity severity;
+    quillet::severity severity;           // how much it matters
     int code;                             // of a refusal: the builder's own; otherwise 0
     std::string_view id;                  // stable, in words: "syntax-error", "refused-initcap"
     std::string_view message;             // one sentence
     std::optional<std::string_view> hint; // what to write instead
     std::size_t offset;                   // bytes before the construct
     std::size_t length;                   // its bytes; 0 at the statement's end
-    int line, column; // of its first character, from 1; a character is one of UTF-8
+    int line;                             // of its first character, from 1
+    int column;                           // likewise; a character is one of UTF-8
 };
 
 // The diagnostics of a translation, to which they belong.
@@ -75,6 +82,7 @@ public:
         // Holds the value as long as its member is looked at.
         class pointer {
         public:
+            // Makes the value, and gives its address.
             explicit pointer(const diagnostic &of) noexcept : value_(of) {}
             const diagnostic *operator->() const noexcept { return &value_; }
 
@@ -82,14 +90,17 @@ public:
             diagnostic value_;
         };
 
+        // What std::iterator_traits asks for.
         using iterator_category = std::input_iterator_tag;
         using value_type = diagnostic;
         using difference_type = std::ptrdiff_t;
         using reference = diagnostic;
 
+        // An iterator without a place, and one at a diagnostic of a translation.
         iterator() = default;
         explicit iterator(const quillet_diagnostic *at) noexcept : at_(at) {}
 
+        // The diagnostic at the place, and the next place.
         diagnostic operator*() const noexcept { return diagnostic(*at_); }
         pointer operator->() const noexcept { return pointer(**this); }
         iterator &operator++() noexcept {
@@ -98,6 +109,7 @@ public:
         }
         iterator operator++(int) noexcept { return iterator(at_++); }
 
+        // Whether the places are the same.
         friend bool operator==(iterator a, iterator b) noexcept { return a.at_ == b.at_; }
         friend bool operator!=(iterator a, iterator b) noexcept { return a.at_ != b.at_; }
 
@@ -105,10 +117,12 @@ public:
         const quillet_diagnostic *at_ = nullptr;
     };
 
+    // None, or so many from the first one on.
     diagnostic_range() = default;
     diagnostic_range(const quillet_diagnostic *first, std::size_t size) noexcept
         : first_(first), size_(size) {}
 
+    // As of a container. The index is from 0 and below size().
     iterator begin() const noexcept { return iterator(first_); }
     iterator end() const noexcept { return iterator(first_ + size_); }
     std::size_t size() const noexcept { return size_; }
@@ -125,6 +139,7 @@ private:
 // from, is a failure without text and diagnostics.
 class translation {
 public:
+    // A failure without text and diagnostics.
     translation() = default;
 
     // Takes over what quillet_translate returned.
@@ -174,6 +189,7 @@ private:
     return translation(quillet_translate(statement.data(), statement.size(), builder_id, &limits));
 }
 
+// The same for one of the library's builders by its name here.
 [[nodiscard]] inline translation translate(std::string_view statement, target builder,
                                            const options &asked = {}) {
     return translate(statement, static_cast<int>(builder), asked);

@@ -12,11 +12,13 @@
 extern "C" {
 #endif
 
+/* The failures of a rendering operation. */
 enum {
     QUILLET_BUILD_MISSING_PART = -2, /* a part that the node requires is missing */
     QUILLET_BUILD_CANNOT_RENDER = -3 /* the builder has no rendering for the node */
 };
 
+/* What a rendering operation made of a node. */
 typedef struct build_result {
     char *query;          /* the text, owned by the record's holder; may be NULL */
     int32_t build_result; /* 0, or the last failure in rendering order, a QUILLET_BUILD_ code */

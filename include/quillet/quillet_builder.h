@@ -21,15 +21,20 @@ extern "C" {
 
 typedef struct builder builder;
 
-/* A slot may be NULL. A builder made by hand must start from all zeros. */
+/* A builder: its parent and its operations, a slot each, which may be NULL. One made by hand must
+   start from all zeros. */
 struct builder {
     builder *parent; /* owned; NULL for none */
-#define NODE(kind) build_result *(*build_##kind)(builder * self, node_##kind * node, void *data);
+#define NODE(kind)                                                                                 \
+    /* Renders a node of the kind <kind>. */                                                       \
+    build_result *(*build_##kind)(builder * self, node_##kind * node, void *data);
 #include "quillet_nodes.def"
 #define OPERATOR(name, ...)                                                                        \
+    /* Renders an expression with the operator <name>. */                                          \
     build_result *(*build_operator_##name)(builder * self, node_expression * node, void *data);
 #include "quillet_operators.def"
 #define FUNCTION(name, rule)                                                                       \
+    /* Renders a call of the function <name>. */                                                   \
     build_result *(*build_function_##name)(builder * self, node_function_call * node, void *data);
 #include "quillet_functions.def"
 };
@@ -42,20 +47,18 @@ QUILLET_API builder *quillet_default_builder_create(void);
 QUILLET_API void quillet_builder_free(builder *self);
 
 /*
- * For every slot build_S:
- *
- *   int quillet_implements_S(builder *self)
- *       1 if the slot is filled, else 0
- *   build_result *quillet_call_build_S(builder *self, node, void *data)
- *       what the slot's operation returns, NULL if the slot is empty
- *   build_result *quillet_call_parent_build_S(builder *self, node, void *data)
- *       what the operation of the parent's slot returns for self, node and data; without a parent
- *       or with an empty slot there, the builder's own slot is called
+ * For every slot build_S: quillet_implements_S, quillet_call_build_S and
+ * quillet_call_parent_build_S. The builder must not be NULL. The node and the data go to the
+ * operation as they are, and its result, NULL or not, belongs to the caller.
  */
 #define DISPATCH(slot, node_type)                                                                  \
+    /* Returns 1 if the slot build_<slot> is filled, else 0. */                                    \
     QUILLET_API int quillet_implements_##slot(builder *self);                                      \
+    /* Returns what the operation in build_<slot> returns, NULL if the slot is empty. */           \
     QUILLET_API build_result *quillet_call_build_##slot(builder *self, node_type *node,            \
                                                         void *data);                               \
+    /* Returns what the operation in the parent's build_<slot> returns for self, node and data;    \
+       without a parent or with an empty slot there, the builder's own slot is called. */          \
     QUILLET_API build_result *quillet_call_parent_build_##slot(builder *self, node_type *node,     \
                                                                void *data);
 #define NODE(kind) DISPATCH(kind, node_##kind)
@@ -67,14 +70,18 @@ QUILLET_API void quillet_builder_free(builder *self);
 #undef DISPATCH
 
 /*
- * The default operations, quillet_<kind>_default_builder for every node kind and
- * quillet_operator_<name>_default_builder for every operator.
+ * The default operations: quillet_<kind>_default_builder for every node kind and
+ * quillet_operator_<name>_default_builder for every operator. A host may put them into slots, or
+ * call them; neither builder nor node may be NULL, and data is passed on. Each returns a new
+ * record, which the caller owns; NULL without memory.
  */
 #define NODE(kind)                                                                                 \
+    /* Renders a node of the kind <kind> as PostgreSQL text. */                                    \
     QUILLET_API build_result *quillet_##kind##_default_builder(builder *self, node_##kind *node,   \
                                                                void *data);
 #include "quillet_nodes.def"
 #define OPERATOR(name, ...)                                                                        \
+    /* Renders an expression with the operator <name> as PostgreSQL text. */                       \
     QUILLET_API build_result *quillet_operator_##name##_default_builder(                           \
         builder *self, node_expression *node, void *data);
 #include "quillet_operators.def"

@@ -12,10 +12,11 @@
 extern "C" {
 #endif
 
-/* The words, prefixes and suffixes of a pattern. */
+/* The words, prefixes and suffixes of a pattern, with their spellings. */
 enum {
-#define FORMAT(name, code, ...) DATE_FORMAT_##name = code,
-#define AFFIX(name, code, spelling) DATE_FORMAT_##name = code,
+#define FORMAT(name, code, ...)                                                                    \
+    DATE_FORMAT_##name = code, /* MySQL's specifiers and the spellings: <...> */
+#define AFFIX(name, code, spelling) DATE_FORMAT_##name = code, /* <spelling> */
 #include "quillet_date_formats.def"
 };
 

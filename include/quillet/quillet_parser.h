@@ -28,8 +28,8 @@ extern "C" {
 
 /* The results of a parse. */
 enum {
-    QUILLET_PARSE_ACCEPTED = 0,
-    QUILLET_PARSE_SYNTAX_ERROR = 1,
+    QUILLET_PARSE_ACCEPTED = 0,      /* there is a tree */
+    QUILLET_PARSE_SYNTAX_ERROR = 1,  /* no statement of the dialect */
     QUILLET_PARSE_STACK_OVERFLOW = 2 /* nested too deeply, the statement or its tree too large, or
                                         no memory */
 };
@@ -43,7 +43,7 @@ enum {
  * On standard output it prints
  *
  *   - "Error: syntax error" for a syntax error and "Error: parser stack overflow" for what is
- * nested too deeply, each a line; nothing for what is too large
+ *     nested too deeply, each a line; nothing for what is too large
  *   - every newline inside a block comment
  *   - the line "Unknow character" for a character that no token can hold, which ends the process
  *     with status 0

@@ -28,7 +28,8 @@ QUILLET_API char *quillet_sconcat_free_second(const char *first, char *second);
 QUILLET_API char *quillet_sconcat_free_both(char *first, char *second);
 
 /* Returns a new text: string without its first skeep_at_begin and last skeep_at_end characters, ""
-   when nothing is left or string is NULL. */
+   when nothing is left or string is NULL. The numbers of characters, which are bytes, must not be
+   negative. */
 QUILLET_API char *quillet_extract_string(const char *string, int skeep_at_begin, int skeep_at_end);
 QUILLET_API char *quillet_extract_string_free(char *string, int skeep_at_begin, int skeep_at_end);
 

@@ -12,13 +12,16 @@
 extern "C" {
 #endif
 
+/* The types. Codes are never changed, only appended. */
 enum {
-#define TYPE(name, code, ...) QUILLET_TYPE_##name = code,
+#define TYPE(name, code, ...)                                                                      \
+    QUILLET_TYPE_##name = code, /* its printed name, its category, its spellings: <...> */
 #include "quillet_types.def"
-    QUILLET_TYPE_COUNT
+    QUILLET_TYPE_COUNT /* one more than the last code */
 };
 
-/* Returns the code of the type that a query calls type, in any letter case; 0 for no type. */
+/* Returns the code of the type that a query calls type, in any letter case; 0 for no type. The
+   argument must not be NULL. */
 QUILLET_API int quillet_string_to_type(const char *type);
 
 /* Returns the printed name of a type, a constant text; "" for 0 and for what is no code. */
@@ -31,20 +34,28 @@ QUILLET_API int quillet_is_integer(int type);
 QUILLET_API int quillet_is_float(int type);
 QUILLET_API int quillet_is_numeric(int type); /* integer or float */
 
-/* The type of an operator's result, from the types of its operands (0 for an unknown one). */
+/* The type of an operator's result, from the types of its operands (0 for an unknown one). The
+   operands are codes, and so is the result.
+
+   add and sub: INT8 of two integers or two dates; a date, time or interval keeps its type with an
+   integer, so does a time or interval with an interval, and a date with one is a TIMESTAMP; any
+   other two of these are a TIMESTAMP added and an INTERVAL subtracted; everything else is FLOAT8.
+   divide: an INTERVAL by a number is one, everything else is FLOAT8. */
 QUILLET_API int quillet_get_result_type_add(int left, int right);
 QUILLET_API int quillet_get_result_type_sub(int left, int right);
 QUILLET_API int quillet_get_result_type_divide(int left, int right);
-QUILLET_API int quillet_get_result_type_modulo(int left, int right);
-QUILLET_API int quillet_get_result_type_bool(int left, int right);
-QUILLET_API int quillet_get_result_type_string(int left, int right);
-QUILLET_API int quillet_get_result_type_int2(int left, int right);
-QUILLET_API int quillet_get_result_type_same(int type);
-QUILLET_API int quillet_get_result_type_bool_one(int type);
-QUILLET_API int quillet_get_result_type_float(int type);
-QUILLET_API int quillet_get_result_type_int(int type);
+QUILLET_API int quillet_get_result_type_modulo(int left, int right); /* INT8 */
+QUILLET_API int quillet_get_result_type_bool(int left, int right);   /* BOOL */
+QUILLET_API int quillet_get_result_type_string(int left, int right); /* VARCHAR */
+QUILLET_API int quillet_get_result_type_int2(int left, int right);   /* INT8 */
+QUILLET_API int quillet_get_result_type_same(int type);              /* that of the operand */
+QUILLET_API int quillet_get_result_type_bool_one(int type);          /* BOOL */
+QUILLET_API int quillet_get_result_type_float(int type);             /* FLOAT8 */
+QUILLET_API int quillet_get_result_type_int(int type);               /* INT8 */
 
-/* The type of a function call, whose arguments have been rendered. The call is only read. */
+/* The type of a function call, whose arguments have been rendered, as a code: INT8 for int, FLOAT8
+   for float, BOOL for bool, VARCHAR for string and varchar, UNKNOWN for unknow, and so on. The
+   call, which must not be NULL, is only read. */
 QUILLET_API int quillet_get_result_type_function_int(const node_function_call *call);
 QUILLET_API int quillet_get_result_type_function_float(const node_function_call *call);
 QUILLET_API int quillet_get_result_type_function_bool(const node_function_call *call);
