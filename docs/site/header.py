@@ -20,13 +20,13 @@ NAME = re.compile(r"\b(?:quillet|QUILLET)_\w*[^\W_]\b(?![.<*])")
 
 
 def logical_lines(text):
-    """Lines, joined where a comment or a backslash goes on, each with the number of those it is made of."""
+    """Lines, joined where a comment or a backslash goes on."""
     lines = text.split("\n")
     while lines:
         taken = 1
         while lines[taken - 1].endswith("\\") or COMMENT.sub("", "\n".join(lines[:taken])).count("/*"):
             taken += 1
-        yield re.sub(r"\s*\\\n", "\n", "\n".join(lines[:taken])), taken
+        yield re.sub(r"\s*\\\n", "\n", "\n".join(lines[:taken]))
         del lines[:taken]
 
 
@@ -40,7 +40,7 @@ class Comments:
         text = re.sub(r"([\\@<>#%&$])", r"\\\1", text)
         return NAME.sub(lambda name: "#" * (name[0] in self.declared) + name[0], text)
 
-    def text(self, comment):
+    def text(self, comment, repeat=False):
         """What a comment says: examples, which are set in by four blanks, stay as they are."""
         first, *rest = comment.split("\n")
         lines = [first.strip()] + [re.sub(r"^ ?\*? ?", "", line).rstrip() for line in rest]
@@ -50,13 +50,16 @@ class Comments:
                 example = not example
                 said.append("@code{.cpp}" if example else "@endcode")
             said.append(line if example else self.escaped(re.sub(r"^ +(?!- )", "", line)))
-        return "\n".join(said + ["@endcode"] * example)
+        text = "\n".join(said + ["@endcode"] * example).strip()
+        first = re.match(r".*?\.(?=\s)", text, re.DOTALL)
+        return f"@brief {first[0] if first else text}" + f"\n\n{text}" * bool(first or repeat)
 
-    def turned(self, code):
-        """Code with its comments turned: after code in its line a comment is about that."""
+    def turned(self, code, repeat=False):
+        """Code with its comments turned: after code in its line a comment is about that. What stands before it
+        is repeated in its description if asked for: Doxygen takes the first sentence for the list alone."""
         def turn(comment):
             after = code[:comment.start()].rpartition("\n")[2].strip()
-            return f"/**{'<' * bool(after)} {self.text(comment[1])} */"
+            return f"/**{'<' * bool(after)} {self.text(comment[1], repeat and not after)} */"
         return COMMENT.sub(turn, code)
 
 
@@ -74,7 +77,7 @@ class Families:
     def made_of(self, file):
         """The declarations that a list makes; it undefines its macros."""
         made, used, remark = [], set(), ""
-        for line, _ in logical_lines((self.folder / file).read_text()):
+        for line in logical_lines((self.folder / file).read_text()):
             row = ROW.fullmatch(line)
             if row:
                 used.add(row[1])
@@ -145,7 +148,8 @@ def written(header):
     text = header.read_text()
     if header.suffix == ".hpp":
         text = with_c_comments(text)
-    for at, (line, _) in enumerate(logical_lines(text)):
+    lines = list(logical_lines(text)) + [""]
+    for at, line in enumerate(lines[:-1]):
         if macro := MACRO.fullmatch(line):
             families.define(*macro.groups())
             made = ""
@@ -154,7 +158,9 @@ def written(header):
         elif at == 0:
             made = f"/** @file\n{comments.text(COMMENT.fullmatch(line)[1])} */"
         else:
-            made = comments.turned(f"{shared.comment_of(line)} {line}")
+            leading = shared.comment_of(line)
+            described = line if leading else lines[at + 1]
+            made = comments.turned(f"{leading} {line}", re.match(r"enum|.*\); /\*", described))
         print(made)
 
 

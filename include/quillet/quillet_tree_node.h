@@ -65,7 +65,7 @@ enum {
 #include "quillet_nodes.def"
 
 #define NODE(kind)                                                                                 \
-    /* A node of the kind <kind>. */                                                               \
+    /* A node of the kind <kind>, as in the list: */                                               \
     struct node_##kind {                                                                           \
         int32_t sql_type;                            /* a QUILLET_TYPE_ code, 0 before rendering */
 #define CHILD(kind, type, field) node_##type *field; /* owned; NULL when absent */
