@@ -23,6 +23,7 @@ LINKED = re.compile(r'(?:href|src)="([^"#?:]+)')
 def with_heading(name, page):
     """Doxygen's titles are no headings, and its indexes have none of their own."""
     for title in (text for text, file in API.items() if file == name and '<div class="title">' not in page):
+        page = with_names_as_links(page)
         page = page.replace("<main>", f'<main>\n<h1 class="title">{title}</h1>')
         page = re.sub("<title>.*?</title>", f"<title>{title}</title>", page)
     page = page.replace(" File Reference", "")
@@ -30,6 +31,12 @@ def with_heading(name, page):
     if 'id="nested-classes"' not in page:  # the only ones are private
         page = re.sub(r'<a href="#nested-classes">[^<]*</a> &#124;', "", page)
     return re.sub(r'\s*<a href="[^"]*">More\.\.\.</a>', "", page)
+
+
+def with_names_as_links(page):
+    """In Doxygen's indexes the header is the link, and there is a heading for each letter."""
+    page = re.sub(r'<li>([\w()]+)&#160;:&#160;(<a class="el" [^>]*>).*?</a>', r"<li>\2\1</a>", page)
+    return re.sub(r"(&#160;\s*)?<h3>.*?- \w -</h3>", "", page)
 
 
 def with_description_first(page):

@@ -3,7 +3,8 @@
 
 The headers have plain comments and make families of declarations of the lists beside them. Here a
 comment becomes that of the declaration which it stands before, or after in its line; a list is expanded
-where it is included; and declarations in lines that follow each other share the comment of the first.
+where it is included; what stands before the macros of a family is said of the header; and declarations in
+lines that follow each other share the comment of the first.
 In comments of macros <name> stands for the argument of that name, and <...> for the remaining ones.
 """
 
@@ -40,7 +41,7 @@ class Comments:
         text = re.sub(r"([\\@<>#%&$])", r"\\\1", text)
         return NAME.sub(lambda name: "#" * (name[0] in self.declared) + name[0], text)
 
-    def text(self, comment, repeat=False):
+    def text(self, comment, repeat=False, of_family=False):
         """What a comment says: examples, which are set in by four blanks, stay as they are."""
         first, *rest = comment.split("\n")
         lines = [first.strip()] + [re.sub(r"^ ?\*? ?", "", line).rstrip() for line in rest]
@@ -51,6 +52,8 @@ class Comments:
                 said.append("@code{.cpp}" if example else "@endcode")
             said.append(line if example else self.escaped(re.sub(r"^ +(?!- )", "", line)))
         text = "\n".join(said + ["@endcode"] * example).strip()
+        if of_family:
+            return text
         first = re.match(r".*?\.(?=\s)", text, re.DOTALL)
         return f"@brief {first[0] if first else text}" + f"\n\n{text}" * bool(first or repeat)
 
@@ -155,8 +158,8 @@ def written(header):
             made = ""
         elif included := LIST.fullmatch(line):
             made = families.made_of(included[1])
-        elif at == 0:
-            made = f"/** @file\n{comments.text(COMMENT.fullmatch(line)[1])} */"
+        elif COMMENT.fullmatch(line) and (at == 0 or MACRO.fullmatch(lines[at + 1])):
+            made = f"/** @file\n{comments.text(COMMENT.fullmatch(line)[1], repeat=True, of_family=at > 0)} */"
         else:
             leading = shared.comment_of(line)
             described = line if leading else lines[at + 1]

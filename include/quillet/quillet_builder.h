@@ -26,15 +26,15 @@ typedef struct builder builder;
 struct builder {
     builder *parent; /* owned; NULL for none */
 #define NODE(kind)                                                                                 \
-    /* Renders a node of the kind <kind>. */                                                       \
+    /* Renders a node of the kind <kind>; the caller owns the result. */                           \
     build_result *(*build_##kind)(builder * self, node_##kind * node, void *data);
 #include "quillet_nodes.def"
 #define OPERATOR(name, ...)                                                                        \
-    /* Renders an expression with the operator <name>. */                                          \
+    /* Renders an expression with the operator <name>; the caller owns the result. */              \
     build_result *(*build_operator_##name)(builder * self, node_expression * node, void *data);
 #include "quillet_operators.def"
 #define FUNCTION(name, rule)                                                                       \
-    /* Renders a call of the function <name>. */                                                   \
+    /* Renders a call of the function <name>; the caller owns the result. */                       \
     build_result *(*build_function_##name)(builder * self, node_function_call * node, void *data);
 #include "quillet_functions.def"
 };
@@ -54,11 +54,12 @@ QUILLET_API void quillet_builder_free(builder *self);
 #define DISPATCH(slot, node_type)                                                                  \
     /* Returns 1 if the slot build_<slot> is filled, else 0. */                                    \
     QUILLET_API int quillet_implements_##slot(builder *self);                                      \
-    /* Returns what the operation in build_<slot> returns, NULL if the slot is empty. */           \
+    /* Returns what the operation in build_<slot> returns, which the caller owns; NULL if the      \
+       slot is empty. */                                                                           \
     QUILLET_API build_result *quillet_call_build_##slot(builder *self, node_type *node,            \
                                                         void *data);                               \
     /* Returns what the operation in the parent's build_<slot> returns for self, node and data;    \
-       without a parent or with an empty slot there, the builder's own slot is called. */          \
+       without a parent or with an empty slot there, the builder's own one; the caller owns it. */ \
     QUILLET_API build_result *quillet_call_parent_build_##slot(builder *self, node_type *node,     \
                                                                void *data);
 #define NODE(kind) DISPATCH(kind, node_##kind)
@@ -76,12 +77,12 @@ QUILLET_API void quillet_builder_free(builder *self);
  * record, which the caller owns; NULL without memory.
  */
 #define NODE(kind)                                                                                 \
-    /* Renders a node of the kind <kind> as PostgreSQL text. */                                    \
+    /* Renders a node of the kind <kind> as PostgreSQL text, which the caller owns. */             \
     QUILLET_API build_result *quillet_##kind##_default_builder(builder *self, node_##kind *node,   \
                                                                void *data);
 #include "quillet_nodes.def"
 #define OPERATOR(name, ...)                                                                        \
-    /* Renders an expression with the operator <name> as PostgreSQL text. */                       \
+    /* Renders an expression with the operator <name>; the caller owns the PostgreSQL text. */     \
     QUILLET_API build_result *quillet_operator_##name##_default_builder(                           \
         builder *self, node_expression *node, void *data);
 #include "quillet_operators.def"

@@ -36,15 +36,15 @@ QUILLET_API const char *quillet_mysql_get_error_description(void);
  * quillet_mysql_get_error_code tells its reason.
  */
 #define KIND(kind, ...)                                                                            \
-    /* Renders a node of the kind <kind> as MySQL text. */                                         \
+    /* Renders a node of the kind <kind> as MySQL text, which the caller owns. */                  \
     QUILLET_API build_result *quillet_##kind##_mysql_builder(builder *self, node_##kind *node,     \
                                                              void *data);
 #define OPERATOR(name, ...)                                                                        \
-    /* Renders an expression with the operator <name> as MySQL text: <...> */                      \
+    /* Renders the operator <name> as MySQL text, which the caller owns. */                        \
     QUILLET_API build_result *quillet_operator_##name##_mysql_builder(                             \
         builder *self, node_expression *node, void *data);
 #define FUNCTION(name, ...)                                                                        \
-    /* Renders a call of the function <name> as MySQL text: <...> */                               \
+    /* Renders the function <name> as MySQL text, which the caller owns. */                        \
     QUILLET_API build_result *quillet_function_##name##_mysql_builder(                             \
         builder *self, node_function_call *node, void *data);
 #include "quillet_mysql_slots.def"

@@ -60,7 +60,6 @@ enum {
     QUILLET_AGREGATE_STAR = 3      /* a star, as in count(*) */
 };
 
-/* The records. */
 #define NODE(kind) typedef struct node_##kind node_##kind;
 #include "quillet_nodes.def"
 

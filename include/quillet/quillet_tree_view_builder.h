@@ -31,7 +31,7 @@ QUILLET_API char *quillet_print(int indentation, const char *label, int number);
 /* The operations, quillet_<kind>_tree_view: data is the indentation, a number in the pointer. Each
    returns a new record, which the caller owns; NULL without memory. */
 #define NODE(kind)                                                                                 \
-    /* Writes a node of the kind <kind>, a line for it and one for each node below it. */          \
+    /* Writes a line for a node of the kind <kind> and each below it; the caller owns it. */       \
     QUILLET_API build_result *quillet_##kind##_tree_view(builder *self, node_##kind *node,         \
                                                          void *data);
 #include "quillet_nodes.def"
