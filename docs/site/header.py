@@ -17,7 +17,7 @@ ROW = re.compile(r"\s*([A-Z]+)\((.*)\)\s*(?:/\*(.*)\*/)?", re.DOTALL)
 ARGUMENT = re.compile(r'((?:"(?:\\.|[^"])*"|\([^)]*\)|[^,"(])+)(?:,\s*|$)')
 MACRO = re.compile(r"#define ([A-Z]+)\(([^)]*)\)(.*)", re.DOTALL)
 LIST = re.compile(r'#include "(\w+\.def)"')
-NAME = re.compile(r"\b(?:quillet|QUILLET)_\w*[^\W_]\b(?![.<*])")
+NAME = re.compile(r"\b(?:quillet|QUILLET)_\w*[^\W_]\b(?!\.(?:h|hpp|def)\b|[<*\\])")
 
 
 def logical_lines(text):
@@ -34,12 +34,9 @@ def logical_lines(text):
 class Comments:
     """Turns plain comments into Doxygen's."""
 
-    def __init__(self, declared):
-        self.declared = declared
-
     def escaped(self, text):
         text = re.sub(r"([\\@<>#%&$])", r"\\\1", text)
-        return NAME.sub(lambda name: "#" * (name[0] in self.declared) + name[0], text)
+        return NAME.sub(lambda name: name[0] if re.search("[a-z]_[A-Z]", name[0]) else f"#{name[0]}", text)
 
     def text(self, comment, repeat=False, of_family=False):
         """What a comment says: examples, which are set in by four blanks, stay as they are."""
@@ -144,8 +141,7 @@ def with_c_comments(text):
 
 
 def written(header):
-    declared = set(NAME.findall(COMMENT.sub("", "".join(each.read_text() for each in header.parent.glob("*.h")))))
-    comments = Comments(declared)
+    comments = Comments()
     families = Families(header.parent, comments)
     shared = Shared()
     text = header.read_text()

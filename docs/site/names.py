@@ -32,8 +32,7 @@ def public_names(folder):
         page = compound.get("id")
         scope = compound.findtext("compoundname")
         is_scope = compound.get("kind") in ("struct", "class", "namespace")
-        if compound.get("kind") != "namespace":
-            yield Name(scope, compound.get("kind"), f"{page}.html", said_of(compound))
+        yield Name(scope, compound.get("kind"), f"{page}.html", said_of(compound))
         for member in compound.iter("memberdef"):
             if member.get("prot") != "public" or not member.get("id").startswith(page):
                 continue

@@ -25,6 +25,7 @@
 
 #include "quillet.h"
 
+// All that quillet.hpp declares.
 namespace quillet {
 
 // The builders, by their ids.
