@@ -15,10 +15,12 @@ import subprocess
 import sys
 from urllib.parse import urlsplit
 
+from python_module import Module
+
 GROUPS = {
     "Guides": ["README.md", "docs/*.md"],
     "Manual pages": ["docs/man/*.pod"],
-    "Python": ["bindings/python/README.md"],
+    "Python": ["bindings/python/README.md", "bindings/python/src/quillet/__init__.py"],
     "Quillet from inside": ["CONTRIBUTING.md", "lib/README.md", "truth/README.md"],
 }
 API = {
@@ -29,7 +31,11 @@ API = {
     "All functions": "globals_func.html",
     "All codes": "globals_eval.html",
 }
-NAMES = {"README.md": "index", "bindings/python/README.md": "python"}
+NAMES = {
+    "README.md": "index",
+    "bindings/python/README.md": "python",
+    "bindings/python/src/quillet/__init__.py": "python-module",
+}
 
 
 class Page:
@@ -40,7 +46,7 @@ class Page:
         stem = os.path.basename(path).removesuffix(".md").removesuffix(".pod")
         self.name = NAMES.get(path) or (folder or stem).lower().replace(".", "-")
         self.file = self.name + ".html"
-        self.title, self.body = manual_page(path) if path.endswith(".pod") else guide(path)
+        self.title, self.body = READERS[os.path.splitext(path)[1]](path)
 
     def finish(self, pages):
         self.headings = []
@@ -105,6 +111,9 @@ def manual_page(path):
     body = re.sub(r"</h([1-5])>", lambda heading: f"</h{int(heading[1]) + 1}>", body)
     name, section = os.path.basename(path).removesuffix(".pod").rsplit(".", 1)
     return f"{name}({section})", body
+
+
+READERS = {".md": guide, ".pod": manual_page, ".py": lambda path: Module(path).page()}
 
 
 def all_pages():

@@ -27,7 +27,7 @@ def logical_lines(text):
         taken = 1
         while lines[taken - 1].endswith("\\") or COMMENT.sub("", "\n".join(lines[:taken])).count("/*"):
             taken += 1
-        yield re.sub(r"\s*\\\n", "\n", "\n".join(lines[:taken]))
+        yield "\n".join(lines[:taken])
         del lines[:taken]
 
 
@@ -72,7 +72,8 @@ class Families:
         self.macros = {}
 
     def define(self, name, parameters, body):
-        self.macros[name] = [each.strip() for each in parameters.split(",")], self.comments.turned(body.strip())
+        code = re.sub(r"\s*\\\n", "\n", body).strip()
+        self.macros[name] = [each.strip() for each in parameters.split(",")], self.comments.turned(code)
 
     def made_of(self, file):
         """The declarations that a list makes; it undefines its macros."""

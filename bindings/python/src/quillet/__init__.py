@@ -33,10 +33,10 @@ BUILDERS = tuple(_library.builder_names())
 class Severity(IntEnum):
     """How much a diagnostic matters, in rising order."""
 
-    NOTE = 0
-    WARNING = 1
-    REFUSAL = 2
-    ERROR = 3
+    NOTE = 0  # the text may give something else, which only the database knows
+    WARNING = 1  # the text gives something else, or is rejected
+    REFUSAL = 2  # the builder has no equal for a construct
+    ERROR = 3  # the statement is wrong, or too large
 
     def __str__(self) -> str:
         return self.name.lower()
@@ -49,7 +49,7 @@ class Diagnostic:
     As a text it is "line:column: severity: message [id]", and the hint in a line of its own.
     """
 
-    severity: Severity
+    severity: Severity  # how much it matters
     id: str  # stable, in words: "syntax-error", "refused-initcap"
     message: str  # one sentence
     hint: str | None  # what to write instead
@@ -68,8 +68,8 @@ class Diagnostic:
 class Translation:
     """A text, and the warnings and notes about it in the order of their places."""
 
-    text: str
-    diagnostics: tuple[Diagnostic, ...]
+    text: str  # the statement as the builder writes it
+    diagnostics: tuple[Diagnostic, ...]  # without any refusal or error
 
 
 class QuilletError(Exception):
@@ -83,7 +83,8 @@ class UnknownBuilder(QuilletError, ValueError):
 class TranslationError(QuilletError):
     """The statement has no translation.
 
-    The place is that of the first reason. As a text it is all reasons, each as its diagnostic is.
+    The place is that of the first reason, and diagnostics has the warnings and notes, too. As a
+    text it is all reasons, each as its diagnostic is.
     """
 
     code: ClassVar[int]  # of the C library
@@ -99,18 +100,22 @@ class TranslationError(QuilletError):
 
     @property
     def offset(self) -> int:
+        """Characters before the first reason's construct."""
         return self.reasons[0].offset
 
     @property
     def length(self) -> int:
+        """The characters of the first reason's construct."""
         return self.reasons[0].length
 
     @property
     def line(self) -> int:
+        """The line of its first character, from 1."""
         return self.reasons[0].line
 
     @property
     def column(self) -> int:
+        """The column of its first character, from 1."""
         return self.reasons[0].column
 
     def __str__(self) -> str:
@@ -120,13 +125,13 @@ class TranslationError(QuilletError):
 class InvalidQuery(TranslationError):
     """It is no statement of the dialect, or a construct lacks a part."""
 
-    code = -2
+    code = -2  # of the C library
 
 
 class CannotTranslate(TranslationError):
     """The builder has no equal for a construct, or a limit or the memory was too small."""
 
-    code = -3
+    code = -3  # of the C library
 
 
 def translate(
