@@ -80,7 +80,7 @@ private:
         splitter pieces(flushed, plain_strings);
         while (const piece *next = pieces.next()) {
             if (next->kind != piece_kind::statement) {
-                do_between(*next);
+                do_between(from.name(), *next);
                 continue;
             }
             const translation made = translator_.translate(*next, plain_strings);
@@ -93,7 +93,7 @@ private:
         }
     }
 
-    void do_between(const piece &other) {
+    void do_between(const std::string &file, const piece &other) {
         writer_->write_between(other);
         const own_finding *said = nullptr;
         if (other.kind == piece_kind::command && asked_.output_format == format::sql &&
@@ -106,6 +106,8 @@ private:
         finding found = make_finding(*said, 0, other.text.size());
         found.at = other.begin;
         messages_.show(other, found);
+        if (report_)
+            report_->add(file, other, found);
     }
 
     // A line has one object for it, whatever is in it.
@@ -125,15 +127,16 @@ private:
             const translation made = fault ? untranslated(*fault, text.size())
                                            : translator_.translate(statement, asked_.plain_strings);
             to_.write(json_line(from.name(), asked_.to, statement, made, next.id));
-            take(from, statement, made);
+            take(from, statement, made, next.id);
         }
     }
 
     // Does with a translated statement what does not depend on how it is written.
-    void take(const file_source &from, const piece &statement, const translation &made) {
+    void take(const file_source &from, const piece &statement, const translation &made,
+              const std::string &id = "") {
         summary_.add(made);
         if (report_)
-            report_->add(from.name(), statement, made);
+            report_->add(from.name(), statement, made, id);
         if (asked_.output_format == format::sql)
             for (const finding &each : made.findings)
                 messages_.show(statement, each);
