@@ -62,7 +62,7 @@
     find('title').textContent = document.title = title;
     const list = element('ul', {}, files.map((each) => element('li', {}, each.name)));
     const rows = [
-      ['Files', files.length === 1 ? files[0].name
+      ['Files', files.length <= 3 ? files.map((each) => each.name).join(', ')
         : element('details', {}, element('summary', {}, counted(files.length, 'file')), list)],
       ['Builder', data.builder],
       ['Settings', data.settings.join(' ') || 'default'],
