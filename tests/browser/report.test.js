@@ -120,6 +120,7 @@ describe('numbers', () => {
       for (const id of new Set(diagnostics.map((each) => each.id)))
         wanted.get(id).statements += 1;
     }
+    assert.ok([...wanted.values()].some((row) => row.places > row.statements));
     const page = await open(browser, made.page);
     const seen = [];
     for (const row of await page.locator('#ids tbody tr').all()) {

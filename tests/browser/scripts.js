@@ -18,7 +18,7 @@ ${deep};
 const stock = `
 select initcap(customer) from orders;
 select 7 / 2, 'C:\\data';
-select 8 / 3;
+select 8 / 3, 9 / 2;
 set work_mem = '1MB';
 select (1;
 `;
