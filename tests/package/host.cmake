@@ -8,6 +8,8 @@ function(run)
     set(output "${output}" PARENT_SCOPE)
 endfunction()
 
+# The objects of a run before may stay, its options not.
+file(REMOVE ${BINARY}/CMakeCache.txt)
 run(${CMAKE_COMMAND} -S ${HOST} -B ${BINARY} -G ${GENERATOR} -DSOURCE=${SOURCE} -DWAY=${WAY}
     -DBUILD_SHARED_LIBS=${SHARED} -DCMAKE_BUILD_TYPE= -DCMAKE_C_COMPILER=${C_COMPILER}
     -DCMAKE_CXX_COMPILER=${CXX_COMPILER})
