@@ -148,7 +148,7 @@ def thousands(number):
     return f"{number:,.0f}"
 
 
-def section(times, rounds, statements, piped):
+def section(times, rounds, statements, piped, load):
     speeds = {run: statements / median(found) for run, found in times.items()}
     ratios = {
         name: [one / two for one, two in zip(times[name, 1], times[name, 2])] for name in RUNS
@@ -174,7 +174,7 @@ def section(times, rounds, statements, piped):
     hours = [f"in {hours} h" for hours in HOURS]
     return (
         f"{thousands(statements)} statements, {rounds} runs of each in turn; load when the run began "
-        f"{os.getloadavg()[0]:.1f}. Statements a second:\n\n"
+        f"{load:.1f}. Statements a second:\n\n"
         + table(("", "1 job", "2 jobs", "ratio", "least – most"), measured)
         + "\nA billion statements by the speed of 2 jobs, in machines of 2 cores:\n\n"
         + table(("", "hours of one machine", *hours), computed)
@@ -192,13 +192,14 @@ def update(text):
 
 def main():
     options = arguments()
+    load, *_ = os.getloadavg()
     with tempfile.TemporaryDirectory() as name:
         directory = Path(name)
         statements = write_input(directory, options.copies)
         count = len(statements) * (options.copies // FILES * FILES)
         piped = check_pipe(statements)
         times = measure(directory, options.rounds, count)
-    text = section(times, options.rounds, count, piped)
+    text = section(times, options.rounds, count, piped, load)
     print(text, end="")
     if options.update:
         update(text)
