@@ -7,6 +7,7 @@ import sys
 import compare_growth
 import compare_machine
 import compare_page
+import compare_script
 import compare_startup
 import compare_statements
 
@@ -32,9 +33,10 @@ def main():
 
     machine = compare_machine.section()
     statements = compare_statements.section(options.rounds, options.seconds)
+    scripts = compare_script.section(options.rounds)
     startup = compare_startup.section()
     cells = compare_growth.measure()
-    text = "\n".join([machine, statements, startup, compare_growth.section(cells)])
+    text = "\n".join([machine, statements, scripts, startup, compare_growth.section(cells)])
 
     print(text, end="")
     if options.update:

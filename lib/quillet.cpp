@@ -28,6 +28,8 @@ void quillet_init(void) {
 
 void quillet_done(void) {}
 
+const char *quillet_version(void) { return QUILLET_VERSION; }
+
 int quillet_get_builder_count(void) { return builder_count; }
 
 quillet_builder_info *quillet_get_builder_info(int builder_id) {

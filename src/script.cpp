@@ -3,6 +3,8 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
+#include <memory>
+#include <new>
 #include <optional>
 #include <string>
 
@@ -23,6 +25,21 @@ namespace {
 using namespace script;
 
 enum status { all_translated = 0, some_not_translated = 1, could_not_run = 2 };
+
+// Writes what there is before it waits for more.
+class flushing_source final : public source {
+public:
+    flushing_source(source &from, output &to) : from_(from), to_(to) {}
+
+    std::size_t read(char *to, std::size_t room) override {
+        to_.flush();
+        return from_.read(to, room);
+    }
+
+private:
+    source &from_;
+    output &to_;
+};
 
 // One run over all files.
 class run {
@@ -63,7 +80,7 @@ private:
         splitter pieces(flushed, plain_strings);
         while (const piece *next = pieces.next()) {
             if (next->kind != piece_kind::statement) {
-                do_between(*next);
+                do_between(from.name(), *next);
                 continue;
             }
             const translation made = translator_.translate(*next, plain_strings);
@@ -76,7 +93,7 @@ private:
         }
     }
 
-    void do_between(const piece &other) {
+    void do_between(const std::string &file, const piece &other) {
         writer_->write_between(other);
         const own_finding *said = nullptr;
         if (other.kind == piece_kind::command && asked_.output_format == format::sql &&
@@ -89,15 +106,37 @@ private:
         finding found = make_finding(*said, 0, other.text.size());
         found.at = other.begin;
         messages_.show(other, found);
+        if (report_)
+            report_->add(file, other, found);
     }
 
-    void do_lines(file_source &from);
+    // A line has one object for it, whatever is in it.
+    void do_lines(file_source &from) {
+        flushing_source flushed(from, to_);
+        json_input lines(flushed);
+        for (json_statement next; lines.read(next);) {
+            const std::string_view text = next.text ? std::string_view(*next.text) : lines.line();
+            const only_statement only(text, asked_.plain_strings);
+            const own_finding *fault = !next.text    ? &not_json
+                                       : !only.get() ? &not_one_statement
+                                                     : nullptr;
+            piece whole;
+            whole.kind = piece_kind::statement;
+            whole.text = text;
+            const piece &statement = fault ? whole : *only.get();
+            const translation made = fault ? untranslated(*fault, text.size())
+                                           : translator_.translate(statement, asked_.plain_strings);
+            to_.write(json_line(from.name(), asked_.to, statement, made, next.id));
+            take(from, statement, made, next.id);
+        }
+    }
 
     // Does with a translated statement what does not depend on how it is written.
-    void take(const file_source &from, const piece &statement, const translation &made) {
+    void take(const file_source &from, const piece &statement, const translation &made,
+              const std::string &id = "") {
         summary_.add(made);
         if (report_)
-            report_->add(from.name(), statement, made);
+            report_->add(from.name(), statement, made, id);
         if (asked_.output_format == format::sql)
             for (const finding &each : made.findings)
                 messages_.show(statement, each);
@@ -114,20 +153,6 @@ private:
         messages_.say(line);
     }
 
-    // Writes what is there before it waits for more.
-    class flushing_source final : public source {
-    public:
-        flushing_source(source &from, output &to) : from_(from), to_(to) {}
-        std::size_t read(char *to, std::size_t room) override {
-            to_.flush();
-            return from_.read(to, room);
-        }
-
-    private:
-        source &from_;
-        output &to_;
-    };
-
     const options &asked_;
     output to_;
     messages messages_;
@@ -136,27 +161,6 @@ private:
     std::optional<report> report_;
     summary summary_;
 };
-
-// A line has one object for it, whatever is in it.
-void run::do_lines(file_source &from) {
-    flushing_source flushed(from, to_);
-    json_input lines(flushed);
-    for (json_statement next; lines.read(next);) {
-        const std::string_view text = next.text ? std::string_view(*next.text) : lines.line();
-        const only_statement only(text, asked_.plain_strings);
-        const own_finding *fault = !next.text    ? &not_json
-                                   : !only.get() ? &not_one_statement
-                                                 : nullptr;
-        piece whole;
-        whole.kind = piece_kind::statement;
-        whole.text = text;
-        const piece &statement = fault ? whole : *only.get();
-        const translation made = fault ? untranslated(*fault, text.size())
-                                       : translator_.translate(statement, asked_.plain_strings);
-        to_.write(json_line(from.name(), asked_.to, statement, made, next.id));
-        take(from, statement, made);
-    }
-}
 
 } // namespace
 

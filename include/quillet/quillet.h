@@ -25,6 +25,7 @@
 #include "quillet_builder_info.h"
 #include "quillet_diagnostic.h"
 #include "quillet_export.h"
+#include "quillet_version.h"
 
 #ifdef __cplusplus
 extern "C" {

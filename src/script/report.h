@@ -3,12 +3,11 @@
 #ifndef QUILLET_SCRIPT_REPORT_H
 #define QUILLET_SCRIPT_REPORT_H
 
-#include <cstdio>
 #include <memory>
 #include <string>
 
+#include "finding.h"
 #include "options.h"
-#include "output.h"
 #include "splitter.h"
 #include "translator.h"
 
@@ -23,7 +22,12 @@ public:
     report(const report &) = delete;
     report &operator=(const report &) = delete;
 
-    void add(const std::string &file, const piece &statement, const translation &made);
+    // id: JSON, "" for none.
+    void add(const std::string &file, const piece &statement, const translation &made,
+             const std::string &id = "");
+
+    // What there is to say about something between statements.
+    void add(const std::string &file, const piece &other, const finding &found);
 
     // Writes the page and ends the writing.
     void finish();

@@ -35,6 +35,15 @@ bool wanted_remarks::has(quillet::severity severity, std::string_view id) const 
     return severity == quillet::severity::warning ? warnings_ : notes_;
 }
 
+std::vector<std::string> wanted_remarks::as_options() const {
+    std::vector<std::string> made;
+    if (!notes_)
+        made.emplace_back(warnings_ ? "--warn=warnings" : "--warn=none");
+    for (const choice &each : choices_)
+        made.push_back((each.is_wanted ? "--warn=" : "--no-warn=") + each.id);
+    return made;
+}
+
 quillet::severity wanted_remarks::least() const {
     bool has_choice = false;
     for (const choice &each : choices_)

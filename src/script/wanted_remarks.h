@@ -22,6 +22,9 @@ public:
 
     bool has(quillet::severity severity, std::string_view id) const;
 
+    // As the command line has them: "--warn=warnings", "--no-warn=clock".
+    std::vector<std::string> as_options() const;
+
     // The least severity that anything wanted may have.
     quillet::severity least() const;
 

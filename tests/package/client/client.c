@@ -13,6 +13,9 @@
 #include <quillet_tree_view_builder.h>
 #include <quillet_type_view_builder.h>
 #include <quillet_types.h>
+#include <quillet_version.h>
+
+#include <quillet/quillet.h> /* as well */
 
 #include <stdio.h>
 #include <stdlib.h>
@@ -32,6 +35,19 @@ static void expect_number(const char *what, int found, int wanted) {
         return;
     printf("%s: %d instead of %d\n", what, found, wanted);
     failures += 1;
+}
+
+/* The package, the headers and the library are of one version, and the compiler can compare it. */
+static void compare_versions(void) {
+    char version[40];
+    snprintf(version, sizeof version, "%d.%d.%d", QUILLET_VERSION_MAJOR, QUILLET_VERSION_MINOR,
+             QUILLET_VERSION_PATCH);
+#if QUILLET_VERSION_MAJOR < 1
+#error "before the first version"
+#endif
+    expect_text("the headers", QUILLET_VERSION, version);
+    expect_text("the library", quillet_version(), version);
+    expect_text("the package", PACKAGE_VERSION, version);
 }
 
 static void translate(void) {
@@ -109,6 +125,7 @@ static void render_by_hand(void) {
 }
 
 int main(void) {
+    compare_versions();
     translate();
     look_at_registry();
     parse_alone();

@@ -14,6 +14,8 @@
 #include <quillet_type_view_builder.h>
 #include <quillet_types.h>
 
+#include <quillet/quillet.hpp> // as well
+
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
