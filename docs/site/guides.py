@@ -62,7 +62,14 @@ class Page:
 
         self.body = re.sub(r"<h([2-6])>(.*?)</h\1>", with_id, self.body)
         self.body = re.sub(r'(href|src)="([^"]*)"', lambda link: f'{link[1]}="{self.target(link[2], pages)}"', self.body)
+        if self.path.endswith(".pod"):
+            self.body = re.sub(r"([\w-]+)\((\d)\)", lambda name: self.reference(name, pages), self.body)
         self.body = re.sub(r"<table>.*?</table>", r'<div class="scroll">\g<0></div>', self.body, flags=re.DOTALL)
+
+    def reference(self, name, pages):
+        """Another manual page, such as quillet(1), as a link if there is one."""
+        page = pages.get(f"docs/man/{name[1]}.{name[2]}.pod", self)
+        return name[0] if page is self else f'<a href="{page.file}">{name[0]}</a>'
 
     def target(self, link, pages):
         """Where a link of the sources goes in the site."""

@@ -7,6 +7,7 @@
 
 #include "quillet_export.h"
 
+/* The version as a number for each of its parts. */
 #define QUILLET_VERSION_MAJOR 1
 #define QUILLET_VERSION_MINOR 0
 #define QUILLET_VERSION_PATCH 0
@@ -14,6 +15,7 @@
 /* As text: "1.2.3" */
 #define QUILLET_VERSION                                                                            \
     QUILLET_VERSION_TEXT(QUILLET_VERSION_MAJOR, QUILLET_VERSION_MINOR, QUILLET_VERSION_PATCH)
+/* Makes a text of three numbers, and of macros that are numbers. */
 #define QUILLET_VERSION_TEXT(major, minor, patch) QUILLET_VERSION_JOIN(major, minor, patch)
 #define QUILLET_VERSION_JOIN(major, minor, patch) #major "." #minor "." #patch
 
