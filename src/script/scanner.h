@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "source.h"
 #include "splitter.h"
@@ -22,6 +23,7 @@ enum class token {
     word,
     string,
     escape_string,
+    continuation, // of an escape string, in another line
     dollar_string,
     prefixed_string,
     question,
@@ -45,7 +47,23 @@ struct scan {
 
     std::string_view text() const { return std::string_view(window).substr(begin, end - begin); }
 
+    // Takes note of a token, as what comes before a quote tells whether a string goes on there.
+    void pass(token found);
+
+    // Whether backslashes escape in the string that begins with a quote here.
+    bool escapes() const {
+        return string_goes_on == going_on::here ? has_escapes
+                                                : plain_strings == backslashes::escape;
+    }
+
+    // Whether an escape string goes on with a quote here.
+    bool goes_on_with_escapes() const {
+        return string_goes_on == going_on::here &&
+               (string_kind == token::escape_string || string_kind == token::continuation);
+    }
+
     source &from;
+    std::vector<char> part = std::vector<char>(std::size_t{1} << 16); // what is read at a time
     backslashes plain_strings;
     std::string window;
     std::size_t kept = 0;   // the window is needed from here on
@@ -54,10 +72,17 @@ struct scan {
     std::size_t end = 0;
     std::size_t moved = 0; // how far the window has moved on
     std::size_t depth = 0; // of nested comments
+
+    // Of the last string.
     token string_kind = token::string;
-    bool is_plain = true; // of a string
-    std::string tag;      // of a dollar-quoted string
+    bool has_escapes = false;
+    bool is_plain = true;
+    std::string tag; // of a dollar-quoted one
+    enum class going_on { never, in_next_line, here } string_goes_on = going_on::never;
 };
+
+// Whether the argument of one of psql's commands is all of its line.
+bool takes_line(std::string_view command);
 
 void *scanner_begin(scan &of);
 void scanner_end(void *scanner);

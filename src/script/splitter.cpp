@@ -12,21 +12,48 @@
 namespace script {
 
 std::size_t scan::read_on(char *to, std::size_t room) {
-    constexpr std::size_t part = std::size_t{1} << 16;
     if (handed == window.size()) {
         window.erase(0, kept);
         moved += kept;
         begin = begin > kept ? begin - kept : 0;
         end -= kept;
         kept = 0;
-        const std::size_t size = window.size();
-        window.resize(size + std::max(part, size));
-        window.resize(size + from.read(window.data() + size, window.size() - size));
-        handed = size;
+        handed = window.size();
+        // The scanner reads a token of one part again, so one that is long is told to go on for as
+        // long.
+        const std::size_t unfinished = handed - end;
+        std::size_t count = 0;
+        do {
+            count = from.read(part.data(), part.size());
+            window.append(part.data(), count);
+        } while (count > 0 && unfinished > part.size() && window.size() - handed < unfinished);
     }
     const std::size_t count = std::string_view(window).substr(handed).copy(to, room);
     handed += count;
     return count;
+}
+
+void scan::pass(token found) {
+    switch (found) {
+    case token::string:
+    case token::escape_string:
+    case token::continuation:
+    case token::prefixed_string: string_goes_on = going_on::in_next_line; break;
+    case token::blank:
+        if (string_goes_on == going_on::in_next_line &&
+            text().find_first_of("\n\r") != std::string_view::npos)
+            string_goes_on = going_on::here;
+        break;
+    case token::line_comment: break;
+    default: string_goes_on = going_on::never; break;
+    }
+}
+
+bool takes_line(std::string_view command) {
+    constexpr std::string_view takers[] = {"",     "copy", "ef",  "ev", "h",
+                                           "help", "sf",   "sf+", "sv", "sv+"};
+    return command.starts_with("!") ||
+           std::find(std::begin(takers), std::end(takers), command) != std::end(takers);
 }
 
 namespace {
@@ -64,22 +91,36 @@ bool stands_between(token kind) {
            kind == token::command;
 }
 
-// The commands of psql that send what has been read of a statement.
+// Whether one of psql's commands has one of some names.
+template <class Names> bool has_name(std::string_view command, const Names &names) {
+    const std::string_view name = command.substr(1, command.find_first_of(" \t\n\r\f\\", 1) - 1);
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
+// Those that send what has been read of a statement.
 bool sends(std::string_view command) {
     constexpr std::string_view senders[] = {"g",     "gx",    "gset",        "gexec",
                                             "gdesc", "watch", "crosstabview"};
-    const std::string_view name = first_word(command.substr(1));
-    return std::find(std::begin(senders), std::end(senders), name) != std::end(senders);
+    return has_name(command, senders);
+}
+
+// Those that forget it.
+bool forgets(std::string_view command) {
+    constexpr std::string_view forgetters[] = {"r", "reset"};
+    return has_name(command, forgetters);
 }
 
 // Whether the lines behind a \copy are its data.
 bool copies_from_input(std::string_view command) {
+    constexpr std::string_view copy[] = {"copy"};
+    if (!has_name(command, copy))
+        return false;
     std::string_view before;
     for (std::string_view left = command.substr(1); !left.empty();) {
         left = without_blanks_before(left);
         const std::string_view word = first_word(left);
         if (is_word(before, "from") && is_word(word, "stdin"))
-            return is_word(first_word(command.substr(1)), "copy");
+            return true;
         left.remove_prefix(std::min(left.size(), std::max<std::size_t>(word.size(), 1)));
         before = word;
     }
@@ -96,7 +137,11 @@ public:
     void begin() { *this = {}; }
 
     void take(std::string_view word, std::size_t open_parentheses) {
-        if (count_ < first_.size())
+        constexpr std::string_view beginning[] = {"create", "or", "replace", "function",
+                                                  "procedure"};
+        if (count_ < first_.size() &&
+            std::any_of(std::begin(beginning), std::end(beginning),
+                        [word](std::string_view known) { return is_word(word, known); }))
             first_[count_] = in_lower_case(word[0]);
         ++count_;
         if (is_function() && open_parentheses == 0) {
@@ -105,7 +150,7 @@ public:
             else if (open_bodies_ > 0 && is_word(word, "end"))
                 --open_bodies_;
         }
-        has_from_stdin_ |= is_behind_from_ && is_word(word, "stdin");
+        has_from_stdin_ |= open_parentheses == 0 && is_behind_from_ && is_word(word, "stdin");
         is_behind_from_ = is_word(word, "from");
     }
 
@@ -156,6 +201,7 @@ private:
 
     part read() {
         const token kind = scanner_next(scanner_);
+        scan_.pass(kind);
         if (kind == token::end)
             return {kind, scan_.moved + scan_.end, scan_.moved + scan_.end};
         return {kind, scan_.moved + scan_.begin, scan_.moved + scan_.end};
@@ -248,6 +294,16 @@ const piece *splitter::worker::read_statement(part first) {
             piece_.is_ended_by_command = true;
             break;
         }
+        if (found.kind == token::command && forgets(text_of(found.begin, found.end))) {
+            waiting_.clear();
+            return give(piece_kind::command, begin, found.end);
+        }
+        if (found.kind == token::continuation) {
+            waiting_.clear();
+            end = found.end;
+            piece_.marks.back().end = end - begin;
+            continue;
+        }
         if (stands_between(found.kind)) {
             waiting_.push_back(found);
             continue;
@@ -279,7 +335,7 @@ const piece *splitter::worker::read_statement(part first) {
         waiting_.push_back(found);
     const piece *const made = give(piece_kind::statement, begin, end);
     piece_.verb = piece_.text.substr(0, verb_size);
-    if (found.kind == token::semicolon && is_word(piece_.verb, "copy") && words_.has_from_stdin())
+    if (found.kind != token::end && is_word(piece_.verb, "copy") && words_.has_from_stdin())
         scanner_expect_copy_data(scanner_, begins_copy_data_ = is_in_copy_data_ = true);
     return made;
 }
