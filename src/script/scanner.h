@@ -50,6 +50,11 @@ struct scan {
     // Takes note of a token, as what comes before a quote tells whether a string goes on there.
     void pass(token found);
 
+    // How many of some blanks are before the data of a COPY; 0 if it does not begin in them.
+    int size_before_copy_data(std::string_view blanks) const {
+        return copies_open > 0 ? static_cast<int>(blanks.find('\n') + 1) : 0;
+    }
+
     // Whether backslashes escape in the string that begins with a quote here.
     bool escapes() const {
         return string_goes_on == going_on::here ? has_escapes
@@ -70,8 +75,9 @@ struct scan {
     std::size_t handed = 0; // the scanner has got it up to here
     std::size_t begin = 0;  // of the token
     std::size_t end = 0;
-    std::size_t moved = 0; // how far the window has moved on
-    std::size_t depth = 0; // of nested comments
+    std::size_t moved = 0;       // how far the window has moved on
+    std::size_t depth = 0;       // of nested comments
+    std::size_t copies_open = 0; // COPY statements whose data begins in the next line
 
     // Of the last string.
     token string_kind = token::string;
@@ -87,7 +93,7 @@ bool takes_line(std::string_view command);
 void *scanner_begin(scan &of);
 void scanner_end(void *scanner);
 token scanner_next(void *scanner);
-void scanner_expect_copy_data(void *scanner, bool is_expected);
+void scanner_end_copy_data(void *scanner);
 
 } // namespace script
 

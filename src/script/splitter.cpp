@@ -110,7 +110,7 @@ bool forgets(std::string_view command) {
     return has_name(command, forgetters);
 }
 
-// Whether the lines behind a \copy are its data.
+// Whether the lines after a \copy are its data.
 bool copies_from_input(std::string_view command) {
     constexpr std::string_view copy[] = {"copy"};
     if (!has_name(command, copy))
@@ -225,8 +225,6 @@ private:
     std::deque<part> waiting_;
     statement_words words_;
     bool is_behind_limit_ = false;
-    bool begins_copy_data_ = false;
-    bool is_in_copy_data_ = false;
 };
 
 const piece *splitter::worker::give(piece_kind kind, std::size_t begin, std::size_t end) {
@@ -246,22 +244,17 @@ const piece *splitter::worker::give(const part &given) {
     case token::block_comment: return give(piece_kind::block_comment, given.begin, given.end);
     case token::command:
         if (copies_from_input(text_of(given.begin, given.end)))
-            scanner_expect_copy_data(scanner_, begins_copy_data_ = is_in_copy_data_ = true);
+            ++scan_.copies_open;
         return give(piece_kind::command, given.begin, given.end);
+    case token::copy_line: return give_copy_line(given);
     default: return give(piece_kind::blank, given.begin, given.end);
     }
 }
 
-// A line of the data; what is left of the line before it comes first.
 const piece *splitter::worker::give_copy_line(const part &line) {
-    const std::string_view text = text_of(line.begin, line.end);
-    const bool is_head = begins_copy_data_;
-    begins_copy_data_ = false;
-    if (!is_head && is_end_of_copy_data(text))
-        scanner_expect_copy_data(scanner_, is_in_copy_data_ = false);
-    const bool is_blank_line = std::all_of(text.begin(), text.end(), is_blank);
-    return give(is_head && is_blank_line ? piece_kind::blank : piece_kind::copy_data, line.begin,
-                line.end);
+    if (is_end_of_copy_data(text_of(line.begin, line.end)) && --scan_.copies_open == 0)
+        scanner_end_copy_data(scanner_);
+    return give(piece_kind::copy_data, line.begin, line.end);
 }
 
 void splitter::worker::mark_in_statement(const part &found, std::size_t statement) {
@@ -286,7 +279,7 @@ const piece *splitter::worker::read_statement(part first) {
     std::size_t open = 0;
     part found = first;
     for (;; found = read()) {
-        if (found.kind == token::end)
+        if (found.kind == token::end || found.kind == token::copy_line)
             break;
         if (found.kind == token::semicolon && open == 0 && !words_.is_in_body())
             break;
@@ -331,12 +324,12 @@ const piece *splitter::worker::read_statement(part first) {
         std::all_of(waiting_.begin(), waiting_.end(),
                     [](const part &each) { return each.kind == token::blank; }))
         waiting_.clear();
-    if (found.kind == token::command)
+    if (found.kind == token::command || found.kind == token::copy_line)
         waiting_.push_back(found);
     const piece *const made = give(piece_kind::statement, begin, end);
     piece_.verb = piece_.text.substr(0, verb_size);
     if (found.kind != token::end && is_word(piece_.verb, "copy") && words_.has_from_stdin())
-        scanner_expect_copy_data(scanner_, begins_copy_data_ = is_in_copy_data_ = true);
+        ++scan_.copies_open;
     return made;
 }
 
@@ -351,7 +344,7 @@ const piece *splitter::worker::next() {
         const part found = read();
         switch (found.kind) {
         case token::end: return nullptr;
-        case token::copy_line: return give_copy_line(found);
+        case token::copy_line:
         case token::blank:
         case token::line_comment:
         case token::block_comment:
