@@ -55,15 +55,10 @@ struct scan {
         return copies_open > 0 ? static_cast<int>(blanks.find('\n') + 1) : 0;
     }
 
-    // Whether backslashes escape in the string that begins with a quote here.
-    bool escapes() const {
-        return string_goes_on == going_on::here ? has_escapes
-                                                : plain_strings == backslashes::escape;
-    }
-
-    // Whether an escape string goes on with a quote here.
-    bool goes_on_with_escapes() const {
-        return string_goes_on == going_on::here &&
+    // Whether a string here is a part of the escape string in a line before. PostgreSQL's server
+    // has escapes in it then; psql, which reads line by line, has none.
+    bool continues_escape_string() const {
+        return next_part == part_of_string::here &&
                (string_kind == token::escape_string || string_kind == token::continuation);
     }
 
@@ -81,14 +76,10 @@ struct scan {
 
     // Of the last string.
     token string_kind = token::string;
-    bool has_escapes = false;
     bool is_plain = true;
     std::string tag; // of a dollar-quoted one
-    enum class going_on { never, in_next_line, here } string_goes_on = going_on::never;
+    enum class part_of_string { none, in_next_line, here } next_part = part_of_string::none;
 };
-
-// Whether the argument of one of psql's commands is all of its line.
-bool takes_line(std::string_view command);
 
 void *scanner_begin(scan &of);
 void scanner_end(void *scanner);

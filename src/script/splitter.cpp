@@ -6,6 +6,7 @@
 #include <deque>
 #include <string>
 
+#include "psql_commands.h"
 #include "scanner.h"
 #include "words.h"
 
@@ -38,22 +39,15 @@ void scan::pass(token found) {
     case token::string:
     case token::escape_string:
     case token::continuation:
-    case token::prefixed_string: string_goes_on = going_on::in_next_line; break;
+    case token::prefixed_string: next_part = part_of_string::in_next_line; break;
     case token::blank:
-        if (string_goes_on == going_on::in_next_line &&
+        if (next_part == part_of_string::in_next_line &&
             text().find_first_of("\n\r") != std::string_view::npos)
-            string_goes_on = going_on::here;
+            next_part = part_of_string::here;
         break;
     case token::line_comment: break;
-    default: string_goes_on = going_on::never; break;
+    default: next_part = part_of_string::none; break;
     }
-}
-
-bool takes_line(std::string_view command) {
-    constexpr std::string_view takers[] = {"",     "copy", "ef",  "ev", "h",
-                                           "help", "sf",   "sf+", "sv", "sv+"};
-    return command.starts_with("!") ||
-           std::find(std::begin(takers), std::end(takers), command) != std::end(takers);
 }
 
 namespace {
@@ -68,6 +62,7 @@ constexpr marking markings[] = {
     {token::line_comment, mark_kind::comment},
     {token::block_comment, mark_kind::comment},
     {token::command, mark_kind::comment},
+    {token::copy_line, mark_kind::comment},
     {token::string, mark_kind::string},
     {token::escape_string, mark_kind::escape_string},
     {token::dollar_string, mark_kind::dollar_string},
@@ -88,43 +83,7 @@ const marking *marking_of(token found) {
 
 bool stands_between(token kind) {
     return kind == token::blank || kind == token::line_comment || kind == token::block_comment ||
-           kind == token::command;
-}
-
-// Whether one of psql's commands has one of some names.
-template <class Names> bool has_name(std::string_view command, const Names &names) {
-    const std::string_view name = command.substr(1, command.find_first_of(" \t\n\r\f\\", 1) - 1);
-    return std::find(std::begin(names), std::end(names), name) != std::end(names);
-}
-
-// Those that send what has been read of a statement.
-bool sends(std::string_view command) {
-    constexpr std::string_view senders[] = {"g",     "gx",    "gset",        "gexec",
-                                            "gdesc", "watch", "crosstabview"};
-    return has_name(command, senders);
-}
-
-// Those that forget it.
-bool forgets(std::string_view command) {
-    constexpr std::string_view forgetters[] = {"r", "reset"};
-    return has_name(command, forgetters);
-}
-
-// Whether the lines after a \copy are its data.
-bool copies_from_input(std::string_view command) {
-    constexpr std::string_view copy[] = {"copy"};
-    if (!has_name(command, copy))
-        return false;
-    std::string_view before;
-    for (std::string_view left = command.substr(1); !left.empty();) {
-        left = without_blanks_before(left);
-        const std::string_view word = first_word(left);
-        if (is_word(before, "from") && is_word(word, "stdin"))
-            return true;
-        left.remove_prefix(std::min(left.size(), std::max<std::size_t>(word.size(), 1)));
-        before = word;
-    }
-    return false;
+           kind == token::command || kind == token::copy_line;
 }
 
 bool is_end_of_copy_data(std::string_view line) {
@@ -152,6 +111,12 @@ public:
         }
         has_from_stdin_ |= open_parentheses == 0 && is_behind_from_ && is_word(word, "stdin");
         is_behind_from_ = is_word(word, "from");
+    }
+
+    // psql takes what follows on \; for another statement, in whatever it stands.
+    void begin_next() {
+        first_ = {};
+        count_ = 0;
     }
 
     // Whether it is in the body of a function, and a semicolon does not end it.
@@ -202,6 +167,11 @@ private:
     part read() {
         const token kind = scanner_next(scanner_);
         scan_.pass(kind);
+        if (kind == token::command && copies_from_input(scan_.text()))
+            ++scan_.copies_open;
+        if (kind == token::copy_line && is_end_of_copy_data(scan_.text()) &&
+            --scan_.copies_open == 0)
+            scanner_end_copy_data(scanner_);
         if (kind == token::end)
             return {kind, scan_.moved + scan_.end, scan_.moved + scan_.end};
         return {kind, scan_.moved + scan_.begin, scan_.moved + scan_.end};
@@ -213,7 +183,6 @@ private:
 
     const piece *give(piece_kind kind, std::size_t begin, std::size_t end);
     const piece *give(const part &given);
-    const piece *give_copy_line(const part &line);
     const piece *read_statement(part first);
     void mark_in_statement(const part &found, std::size_t statement);
 
@@ -242,19 +211,10 @@ const piece *splitter::worker::give(const part &given) {
     switch (given.kind) {
     case token::line_comment: return give(piece_kind::line_comment, given.begin, given.end);
     case token::block_comment: return give(piece_kind::block_comment, given.begin, given.end);
-    case token::command:
-        if (copies_from_input(text_of(given.begin, given.end)))
-            ++scan_.copies_open;
-        return give(piece_kind::command, given.begin, given.end);
-    case token::copy_line: return give_copy_line(given);
+    case token::command: return give(piece_kind::command, given.begin, given.end);
+    case token::copy_line: return give(piece_kind::copy_data, given.begin, given.end);
     default: return give(piece_kind::blank, given.begin, given.end);
     }
-}
-
-const piece *splitter::worker::give_copy_line(const part &line) {
-    if (is_end_of_copy_data(text_of(line.begin, line.end)) && --scan_.copies_open == 0)
-        scanner_end_copy_data(scanner_);
-    return give(piece_kind::copy_data, line.begin, line.end);
 }
 
 void splitter::worker::mark_in_statement(const part &found, std::size_t statement) {
@@ -279,10 +239,12 @@ const piece *splitter::worker::read_statement(part first) {
     std::size_t open = 0;
     part found = first;
     for (;; found = read()) {
-        if (found.kind == token::end || found.kind == token::copy_line)
+        if (found.kind == token::end)
             break;
         if (found.kind == token::semicolon && open == 0 && !words_.is_in_body())
             break;
+        if (found.kind == token::semicolon && scan_.text() == "\\;")
+            words_.begin_next();
         if (found.kind == token::command && sends(text_of(found.begin, found.end))) {
             piece_.is_ended_by_command = true;
             break;
@@ -324,7 +286,7 @@ const piece *splitter::worker::read_statement(part first) {
         std::all_of(waiting_.begin(), waiting_.end(),
                     [](const part &each) { return each.kind == token::blank; }))
         waiting_.clear();
-    if (found.kind == token::command || found.kind == token::copy_line)
+    if (found.kind == token::command)
         waiting_.push_back(found);
     const piece *const made = give(piece_kind::statement, begin, end);
     piece_.verb = piece_.text.substr(0, verb_size);

@@ -29,7 +29,7 @@ enum class piece_kind {
 
 // A part of a statement that a reader of it has to know.
 enum class mark_kind {
-    comment,         // or one of psql's commands
+    comment,         // or one of psql's commands, or COPY's data
     string,          // '...'
     escape_string,   // E'...'
     dollar_string,   // $$...$$
