@@ -56,11 +56,13 @@ struct scan {
     }
 
     // Whether a string here is a part of the escape string in a line before. PostgreSQL's server
-    // has escapes in it then; psql, which reads line by line, has none.
+    // has escapes in it then; psql has them after a carriage return alone, as it reads line by
+    // line.
     bool continues_escape_string() const {
-        return next_part == part_of_string::here &&
+        return next_part >= part_of_string::after_return &&
                (string_kind == token::escape_string || string_kind == token::continuation);
     }
+    bool has_escapes_in_continuation() const { return next_part == part_of_string::after_return; }
 
     source &from;
     std::vector<char> part = std::vector<char>(std::size_t{1} << 16); // what is read at a time
@@ -78,7 +80,8 @@ struct scan {
     token string_kind = token::string;
     bool is_plain = true;
     std::string tag; // of a dollar-quoted one
-    enum class part_of_string { none, in_next_line, here } next_part = part_of_string::none;
+    enum class part_of_string { none, in_next_line, after_return, after_newline };
+    part_of_string next_part = part_of_string::none;
 };
 
 void *scanner_begin(scan &of);

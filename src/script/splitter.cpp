@@ -41,9 +41,12 @@ void scan::pass(token found) {
     case token::continuation:
     case token::prefixed_string: next_part = part_of_string::in_next_line; break;
     case token::blank:
-        if (next_part == part_of_string::in_next_line &&
-            text().find_first_of("\n\r") != std::string_view::npos)
-            next_part = part_of_string::here;
+        if (next_part == part_of_string::none)
+            break;
+        if (text().find('\n') != std::string_view::npos)
+            next_part = part_of_string::after_newline;
+        else if (text().find('\r') != std::string_view::npos)
+            next_part = std::max(next_part, part_of_string::after_return);
         break;
     case token::line_comment: break;
     default: next_part = part_of_string::none; break;

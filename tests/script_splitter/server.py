@@ -25,15 +25,14 @@ class Server:
         self._listening.listen(1)
         threading.Thread(target=self._serve, daemon=True).start()
 
-    def close(self):
-        self._listening.close()
+    def take_queries(self):
+        taken = self.queries[:]
+        self.queries.clear()
+        return taken
 
     def _serve(self):
         while True:
-            try:
-                connection, _ = self._listening.accept()
-            except OSError:
-                return
+            connection, _ = self._listening.accept()
             with connection:
                 try:
                     _Session(connection, self.queries).run()
@@ -79,9 +78,12 @@ class _Session:
         self._send(b"Z", b"I")
 
     def _answer(self, query):
-        is_sent_again = self._queries[-1:] == [query]
+        is_sent_again = self._queries[-1:] == [query] and not query.startswith(b"COPY  ")
         self._queries.append(query)
-        if not is_sent_again and _COPY.match(without_begin(query)):
+        first = without_begin(query)
+        while first.startswith(b";"):
+            first = without_begin(first[1:])
+        if not is_sent_again and _COPY.match(first):
             self._send(b"G", b"\0\0\0")
             while self._read()[0] not in (b"c", b"f"):
                 pass
