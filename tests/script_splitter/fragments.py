@@ -84,6 +84,7 @@ def generate(seed, is_for_psql):
     if choice.random() < 0.1:
         parts.append(choice.choice(_UNENDED))
     script = "".join(parts)
-    if "\\r" in script:  # it forgets what comes before a \\; as well, which we have given out
+    # psql forgets on \\r what comes before a \\; as well, and the server does not see a COPY after one.
+    if "\\r" in script or "stdin" in script:
         script = re.sub(r"(?<!\\)\\;", ";", script)
     return script.encode()
