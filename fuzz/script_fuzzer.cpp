@@ -170,11 +170,15 @@ outcomes run(std::string_view text, const options &asked) {
     return made;
 }
 
-// Whether what is not ended takes more text in, or strings are read otherwise in its course.
+// Whether a script does not come back: it has something without an end, may read strings otherwise
+// in its course, or has a command without a name, which ends the one before it.
 bool is_open(std::string_view text, const std::vector<kept_piece> &pieces) {
-    for (const kept_piece &each : pieces)
+    for (const kept_piece &each : pieces) {
         if (each.kind == piece_kind::statement && each.verb.size() == 3)
             return true;
+        if (each.kind == piece_kind::command && each.text.starts_with("\\\\"))
+            return true;
+    }
     const std::string more = std::string(text) + "\n;select 1\n";
     const auto longer = split(more, backslashes::are_characters, more.size());
     return longer.size() < 2 || longer[longer.size() - 2].text != "select 1";

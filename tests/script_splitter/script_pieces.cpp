@@ -2,7 +2,8 @@
 //
 //   file NAME
 //   statement|command|comment|copy BEGIN END       of a piece, in bytes
-//   inside BEGIN END                               of a command, or of COPY's data, in the statement
+//   inside BEGIN END                               of a command, or of COPY's data, in the
+//   statement
 //                                                  that comes next
 //   sent                                           a command ends the statement before
 
