@@ -17,6 +17,7 @@ begin and end with. Where it differs from psql, psql is right. So these scripts 
   with a backslash in a string that goes on in another line: psql reads line by line and has no escapes
   there, libpg_query has those of E'...'
   with a statement that does not begin with a word, which is none for libpg_query
+  with a byte order mark, or without the end of a parenthesis
   that its scanner gives up, as it does where something has no end
 """
 
@@ -39,7 +40,7 @@ SEPARATOR = b"SET standard_conforming_strings TO on;"
 ESCAPE_IN_NEXT_LINE = re.compile(
     rb"'[ \t\f]*(?:--[^\n\r]*)?[\n\r](?:[ \t\n\r\f]|--[^\n\r]*[\n\r])*'[^']*\\", re.DOTALL)
 # What makes a script psql's alone.
-PSQL_ONLY = re.compile(rb"^\s*\\[a-z]|\\[;:]|begin\s+atomic|from\s+stdin|standard_conforming", re.IGNORECASE)
+PSQL_ONLY = re.compile(rb"^\s*\\[a-z]|\\[;:]|\\(?:g|r|reset)\s|begin\s+atomic|from\s+stdin|standard_conforming", re.IGNORECASE)
 
 BLANK_BYTES = (b" ", b"\t", b"\n", b"\r", b"\f")
 
@@ -185,7 +186,8 @@ def fault_of_queries(queries, pieces):
 
 def is_for_pg_query(name, pieces):
     script = Path(name).read_bytes()
-    return (not PSQL_ONLY.search(script) and not ESCAPE_IN_NEXT_LINE.search(script) and
+    return (not script.startswith(b"\xef\xbb\xbf") and not name.endswith("unended_parenthesis.sql") and
+            not PSQL_ONLY.search(script) and not ESCAPE_IN_NEXT_LINE.search(script) and
             all(re.match(rb"[a-zA-Z]{3}", each.text) for each in pieces if each != "again"))
 
 

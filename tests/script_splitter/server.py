@@ -13,7 +13,7 @@ import threading
 
 from blanks import without_begin
 
-_COPY = re.compile(rb"copy\s+\w+\s*(?:\([^()]*\)\s*)?from\s+stdin\b", re.IGNORECASE)
+_COPY = re.compile(rb"copy\s+[\w.]+\s*(?:\([^()]*\)\s*)?from\s+stdin\b", re.IGNORECASE)
 _STRINGS = re.compile(rb"^\s*set\s+standard_conforming_strings\s*(?:=|to)\s*(on|off)\s*;?\s*$", re.IGNORECASE)
 
 
