@@ -41,6 +41,9 @@ constexpr own_finding comment_dropped = {"comment-dropped", quillet::severity::n
                                          "write them before it"};
 constexpr own_finding psql_command = {"psql-command", quillet::severity::note,
                                       "psql's command is kept as a comment", ""};
+constexpr own_finding invalid_string = {
+    "invalid-string", quillet::severity::error,
+    "a string without an end, or with an escape that stands for no character", ""};
 constexpr own_finding misread_string = {
     "misread-string", quillet::severity::error,
     "a string that ends with a backslash, which would take its closing quote away",

@@ -104,12 +104,12 @@ void reading::replace_mark(const mark &found) {
     case mark_kind::escape_string:
         if (plain_strings_ == backslashes::escape)
             replace_string(found, inside_of(text, 2));
-        else if (const auto value = value_of_escape_string(text))
-            replace_string(found, with_stand_in(*value));
+        else
+            replace_string(found, with_stand_in(value_of_escape_string(text)));
         break;
     case mark_kind::dollar_string:
-        if (const auto value = value_of_dollar_string(text))
-            replace_string(found, with_stand_in(*value));
+        replace_string(found,
+                       with_stand_in(std::optional<std::string>(value_of_dollar_string(text))));
         break;
     default: break;
     }
@@ -117,8 +117,11 @@ void reading::replace_mark(const mark &found) {
 
 // Replaces a string by one of a text between quotes, unless there is no such text.
 void reading::replace_string(const mark &found, std::optional<std::string> inside) {
-    if (!inside)
+    if (!inside) {
+        if (!invalid_)
+            invalid_ = place{found.begin, found.end};
         return;
+    }
     if (has_percents())
         inside = with_single('%', *inside);
     std::string by(1, '\'');
@@ -132,12 +135,11 @@ bool reading::has_percents() const {
 }
 
 // A value with a stand-in for each quote.
-std::optional<std::string> reading::with_stand_in(std::string_view value) const {
-    std::string made(value);
-    if (quote_ == 0 && value.find('\'') != nothing)
+std::optional<std::string> reading::with_stand_in(std::optional<std::string> value) const {
+    if (!value || (quote_ == 0 && value->find('\'') != nothing))
         return std::nullopt;
-    std::replace(made.begin(), made.end(), '\'', quote_);
-    return made;
+    std::replace(value->begin(), value->end(), '\'', quote_);
+    return value;
 }
 
 // What stands in a string of one part, behind a beginning of some characters: with a stand-in for

@@ -46,6 +46,9 @@ public:
     bool has_stand_in(std::string_view message) const;
     std::string in_message(std::string_view message) const;
 
+    // The place in the statement of a string that has no value; nothing if all have one.
+    std::optional<place> invalid_string() const { return invalid_; }
+
     // The place in the statement of a string that ends with a backslash, if the library would take
     // the quote behind it for a part of the string.
     std::optional<place> misread_string() const { return misread_; }
@@ -65,7 +68,7 @@ private:
     void replace_mark(const mark &found);
     void replace_string(const mark &found, std::optional<std::string> inside);
     bool has_percents() const;
-    std::optional<std::string> with_stand_in(std::string_view value) const;
+    std::optional<std::string> with_stand_in(std::optional<std::string> value) const;
     std::optional<std::string> inside_of(std::string_view string, std::size_t beginning) const;
     const edit *edit_before(std::size_t at) const;
     void find_misread_string(const piece &statement);
@@ -81,6 +84,7 @@ private:
     std::string name_;   // what the names of calls begin with
     std::string number_; // what numbers begin with
     char quote_ = 0;
+    std::optional<place> invalid_;
     std::optional<place> misread_;
 };
 

@@ -162,6 +162,11 @@ finding translator::make_finding_of(const quillet::diagnostic &said, translation
 
 void translator::find_all(translation &made, const piece &statement, const reading &read,
                           backslashes plain_strings) const {
+    if (const auto string = read.invalid_string()) {
+        add(made, make_finding(invalid_string, string->begin, string->end - string->begin));
+        made.code = QUILLET_INVALID_QUERY;
+        return;
+    }
     if (const auto string = read.misread_string()) { // the library has read something else
         add(made, make_finding(misread_string, string->begin, string->end - string->begin));
         made.code = QUILLET_INVALID_QUERY;

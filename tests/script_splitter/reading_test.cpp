@@ -292,6 +292,27 @@ TEST(Readings, TellStringsThatTheLibraryWouldReadOn) {
     }
 }
 
+TEST(Readings, TellStringsWithoutAValue) {
+    const std::pair<const char *, std::optional<std::size_t>> cases[] = {
+        {"select 'a''b', E'\\n', $$a$$", std::nullopt},
+        {"select E'a\\';", 7},
+        {"select 1, E'\\u12'", 10},
+        {"select E'\\0', E'\\0'", 7},
+        {"select $$a", 7},
+        {"select 'a''", 7},
+    };
+    for (const auto &[statement, place] : cases) {
+        const one_statement only(statement);
+        const reading read(*only, placeholder_style::none, backslashes::are_characters);
+        ASSERT_EQ(read.invalid_string().has_value(), place.has_value()) << statement;
+        if (place) {
+            EXPECT_EQ(read.invalid_string()->begin, *place) << statement;
+        }
+    }
+    const one_statement only("select 'a\\';", backslashes::escape);
+    EXPECT_TRUE(reading(*only, placeholder_style::none, backslashes::escape).invalid_string());
+}
+
 TEST(Readings, KeepBackslashesThatEscape) {
     const one_statement only("select 'a\\'b''c'", backslashes::escape);
     const reading read(*only, placeholder_style::none, backslashes::escape);
