@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "string_values.h"
+#include "words.h"
 
 namespace script {
 
@@ -105,23 +106,32 @@ void reading::replace_mark(const mark &found) {
     case mark_kind::escape_string:
         if (plain_strings_ == backslashes::escape)
             replace_string(found, inside_of(text, 2));
-        else if (const auto value = value_of_escape_string(text))
-            replace_string(found, with_stand_in(*value));
-        else if (text.size() > 2 && text.back() == '\'')
-            misread_ = fault{&unknown_escape, {found.begin, found.end}};
+        else
+            replace_string(found, with_stand_in(value_of_escape_string(text)));
         break;
     case mark_kind::dollar_string:
-        if (const auto value = value_of_dollar_string(text))
-            replace_string(found, with_stand_in(*value));
+        replace_string(found,
+                       with_stand_in(std::optional<std::string>(value_of_dollar_string(text))));
+        break;
+    case mark_kind::prefixed_string:
+        if (in_lower_case(text[0]) == 'u')
+            find_fault(unicode_escapes, found);
         break;
     default: break;
     }
 }
 
+void reading::find_fault(const own_finding &what, const mark &where) {
+    if (!misread_)
+        misread_ = fault{&what, {where.begin, where.end}};
+}
+
 // Replaces a string by one of a text between quotes, unless there is no such text.
 void reading::replace_string(const mark &found, std::optional<std::string> inside) {
-    if (!inside)
+    if (!inside) {
+        find_fault(found.has_end ? unknown_escape : unended_string, found);
         return;
+    }
     if (has_percents())
         inside = with_single('%', *inside);
     std::string by(1, '\'');
@@ -135,12 +145,11 @@ bool reading::has_percents() const {
 }
 
 // A value with a stand-in for each quote.
-std::optional<std::string> reading::with_stand_in(std::string_view value) const {
-    std::string made(value);
-    if (quote_ == 0 && value.find('\'') != nothing)
+std::optional<std::string> reading::with_stand_in(std::optional<std::string> value) const {
+    if (!value || (quote_ == 0 && value->find('\'') != nothing))
         return std::nullopt;
-    std::replace(made.begin(), made.end(), '\'', quote_);
-    return made;
+    std::replace(value->begin(), value->end(), '\'', quote_);
+    return value;
 }
 
 // What stands in a string of one part, behind a beginning of some characters: with a stand-in for
@@ -186,7 +195,7 @@ void reading::find_misread_string(const piece &statement) {
         else if (next > 0)
             end = each.end - edits_[next - 1].source.end + edits_[next - 1].text.end;
         if (end >= 2 && read[end - 1] == '\'' && read[end - 2] == '\\' && end - 1 < last_quote) {
-            misread_ = fault{&misread_string, {each.begin, each.end}};
+            find_fault(misread_string, each);
             return;
         }
     }
