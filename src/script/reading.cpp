@@ -13,12 +13,31 @@ namespace {
 constexpr std::size_t nothing = std::string_view::npos;
 constexpr int index_digits = 6; // of a number behind LIMIT
 
-// Something that a text does not have: a prefix and, if it must be, a number.
-std::string missing_in(std::string_view text, std::string prefix) {
-    const std::string first = prefix;
-    for (std::size_t i = 1; text.find(prefix) != nothing; ++i)
-        prefix = first + std::to_string(i);
-    return prefix;
+bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+// Something that a text does not have: a prefix and, if it must be, a number. Among the numbers of
+// enough digits one is free, as there are more of them than places of the prefix.
+std::string missing_in(std::string_view text, const std::string &prefix) {
+    std::vector<std::size_t> places;
+    for (std::size_t at = text.find(prefix); at != nothing; at = text.find(prefix, at + 1))
+        places.push_back(at + prefix.size());
+    if (places.empty())
+        return prefix;
+    std::size_t digits = 1;
+    std::size_t least = 1;
+    for (; 9 * least <= places.size(); least *= 10)
+        ++digits;
+    std::vector<bool> is_taken(9 * least);
+    for (const std::size_t place : places) {
+        std::size_t number = 0;
+        std::size_t at = place;
+        while (at < text.size() && at < place + digits && is_digit(text[at]))
+            number = 10 * number + static_cast<std::size_t>(text[at++] - '0');
+        if (at == place + digits && number >= least)
+            is_taken[number - least] = true;
+    }
+    const auto free = std::find(is_taken.begin(), is_taken.end(), false);
+    return prefix + std::to_string(least + static_cast<std::size_t>(free - is_taken.begin()));
 }
 
 // A control character that a text does not have; 0 if it has all.
@@ -28,8 +47,6 @@ char control_missing_in(std::string_view text) {
             return c;
     return 0;
 }
-
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 // A text where each pair of a character is one of it.
 std::string with_single(char doubled, std::string_view text) {

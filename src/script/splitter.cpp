@@ -90,7 +90,7 @@ public:
                                                   "procedure"};
         if (count_ < first_.size() &&
             std::any_of(std::begin(beginning), std::end(beginning),
-                        [word](std::string_view known) { return is_word(word, known); }))
+                        [text = word](std::string_view known) { return is_word(text, known); }))
             first_[count_] = in_lower_case(word[0]);
         ++count_;
         if (is_function() && open_parentheses == 0) {

@@ -201,6 +201,8 @@ TEST(Readings, PutStandInsAndTakeThemBack) {
         {"select ?, ?", question, "select qp__0_(), qp__1_()", "select $1, $2"},
         {"select :a, :b, :a", named, "select qp__0_(), qp__1_(), qp__2_()", "select $1, $2, $1"},
         {"select qp_ + $1", dollar, "select qp_ + qp_1_0_()", "select qp_ + $1"},
+        {"select qp_1, qp_2, qp_4 + $1", dollar, "select qp_1, qp_2, qp_4 + qp_3_0_()",
+         "select qp_1, qp_2, qp_4 + $1"},
         {"select 1 limit $1", dollar, "select 1 limit 97320841000000", "select 1 limit $1"},
         {"select 97320841 limit $1", dollar, "select 97320841 limit 973208411000000",
          "select 97320841 limit $1"},
@@ -219,6 +221,17 @@ TEST(Readings, PutStandInsAndTakeThemBack) {
         std::vector<placeholder> parameters;
         EXPECT_EQ(read.written(read.text(), dollar, parameters), each.written) << each.statement;
     }
+}
+
+TEST(Readings, HaveAStandInBesideAllThatIsTaken) {
+    std::string statement = "select $1";
+    for (int i = 200000; i > 0; --i)
+        statement.append(", qp_").append(std::to_string(i));
+    const one_statement only(statement);
+    const reading read(*only, placeholder_style::dollar, backslashes::are_characters);
+    EXPECT_EQ(read.text().substr(0, 19), "select qp_200001_0_");
+    std::vector<placeholder> parameters;
+    EXPECT_EQ(read.written(read.text(), placeholder_style::dollar, parameters), statement);
 }
 
 TEST(Readings, DoublePercentsWhereTheTargetHasThem) {
