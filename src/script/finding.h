@@ -41,13 +41,20 @@ constexpr own_finding comment_dropped = {"comment-dropped", quillet::severity::n
                                          "write them before it"};
 constexpr own_finding psql_command = {"psql-command", quillet::severity::note,
                                       "psql's command is kept as a comment", ""};
+constexpr own_finding unknown_escape = {"unknown-escape", quillet::severity::error,
+                                        "an escape that stands for no character",
+                                        "write two backslashes for one"};
 constexpr own_finding misread_string = {
     "misread-string", quillet::severity::error,
     "a string that ends with a backslash, which would take its closing quote away",
     "write '...' || chr(92)"};
-constexpr own_finding unknown_escape = {"unknown-escape", quillet::severity::error,
-                                        "an escape that stands for no character",
-                                        "write two backslashes for one"};
+constexpr own_finding unended_string = {
+    "unended-string", quillet::severity::error, "a string without an end",
+    "end it as it has begun; a quote within a string is written twice"};
+constexpr own_finding unicode_escapes = {
+    "unicode-escapes", quillet::severity::error,
+    "a string or a name with Unicode escapes, which are not read",
+    "write the characters themselves"};
 constexpr own_finding misplaced_placeholder = {
     "misplaced-placeholder", quillet::severity::error,
     "a placeholder where no expression may stand",
@@ -66,9 +73,9 @@ constexpr own_finding not_one_statement = {"not-one-statement", quillet::severit
                                            "write an object a statement"};
 
 constexpr const own_finding *own_findings[] = {
-    &copied_statement, &comment_dropped,       &psql_command, &misread_string,
-    &unknown_escape,   &misplaced_placeholder, &not_utf8,     &unended_comment,
-    &not_json,         &not_one_statement};
+    &copied_statement, &comment_dropped, &psql_command,    &misread_string,
+    &unknown_escape,   &unended_string,  &unicode_escapes, &misplaced_placeholder,
+    &not_utf8,         &unended_comment, &not_json,        &not_one_statement};
 
 inline std::string_view name_of(quillet::severity severity) {
     switch (severity) {

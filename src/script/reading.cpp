@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "string_values.h"
+#include "words.h"
 
 namespace script {
 
@@ -12,12 +13,31 @@ namespace {
 constexpr std::size_t nothing = std::string_view::npos;
 constexpr int index_digits = 6; // of a number behind LIMIT
 
-// Something that a text does not have: a prefix and, if it must be, a number.
-std::string missing_in(std::string_view text, std::string prefix) {
-    const std::string first = prefix;
-    for (std::size_t i = 1; text.find(prefix) != nothing; ++i)
-        prefix = first + std::to_string(i);
-    return prefix;
+bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+// Something that a text does not have: a prefix and, if it must be, a number. Among the numbers of
+// enough digits one is free, as there are more of them than places of the prefix.
+std::string missing_in(std::string_view text, const std::string &prefix) {
+    std::vector<std::size_t> places;
+    for (std::size_t at = text.find(prefix); at != nothing; at = text.find(prefix, at + 1))
+        places.push_back(at + prefix.size());
+    if (places.empty())
+        return prefix;
+    std::size_t digits = 1;
+    std::size_t least = 1;
+    for (; 9 * least <= places.size(); least *= 10)
+        ++digits;
+    std::vector<bool> is_taken(9 * least);
+    for (const std::size_t place : places) {
+        std::size_t number = 0;
+        std::size_t at = place;
+        while (at < text.size() && at < place + digits && is_digit(text[at]))
+            number = 10 * number + static_cast<std::size_t>(text[at++] - '0');
+        if (at == place + digits && number >= least)
+            is_taken[number - least] = true;
+    }
+    const auto free = std::find(is_taken.begin(), is_taken.end(), false);
+    return prefix + std::to_string(least + static_cast<std::size_t>(free - is_taken.begin()));
 }
 
 // A control character that a text does not have; 0 if it has all.
@@ -27,8 +47,6 @@ char control_missing_in(std::string_view text) {
             return c;
     return 0;
 }
-
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 // A text where each pair of a character is one of it.
 std::string with_single(char doubled, std::string_view text) {
@@ -105,23 +123,32 @@ void reading::replace_mark(const mark &found) {
     case mark_kind::escape_string:
         if (plain_strings_ == backslashes::escape)
             replace_string(found, inside_of(text, 2));
-        else if (const auto value = value_of_escape_string(text))
-            replace_string(found, with_stand_in(*value));
-        else if (text.size() > 2 && text.back() == '\'')
-            misread_ = fault{&unknown_escape, {found.begin, found.end}};
+        else
+            replace_string(found, with_stand_in(value_of_escape_string(text)));
         break;
     case mark_kind::dollar_string:
-        if (const auto value = value_of_dollar_string(text))
-            replace_string(found, with_stand_in(*value));
+        replace_string(found,
+                       with_stand_in(std::optional<std::string>(value_of_dollar_string(text))));
+        break;
+    case mark_kind::prefixed_string:
+        if (in_lower_case(text[0]) == 'u')
+            find_fault(unicode_escapes, found);
         break;
     default: break;
     }
 }
 
+void reading::find_fault(const own_finding &what, const mark &where) {
+    if (!misread_)
+        misread_ = fault{&what, {where.begin, where.end}};
+}
+
 // Replaces a string by one of a text between quotes, unless there is no such text.
 void reading::replace_string(const mark &found, std::optional<std::string> inside) {
-    if (!inside)
+    if (!inside) {
+        find_fault(found.has_end ? unknown_escape : unended_string, found);
         return;
+    }
     if (has_percents())
         inside = with_single('%', *inside);
     std::string by(1, '\'');
@@ -135,12 +162,11 @@ bool reading::has_percents() const {
 }
 
 // A value with a stand-in for each quote.
-std::optional<std::string> reading::with_stand_in(std::string_view value) const {
-    std::string made(value);
-    if (quote_ == 0 && value.find('\'') != nothing)
+std::optional<std::string> reading::with_stand_in(std::optional<std::string> value) const {
+    if (!value || (quote_ == 0 && value->find('\'') != nothing))
         return std::nullopt;
-    std::replace(made.begin(), made.end(), '\'', quote_);
-    return made;
+    std::replace(value->begin(), value->end(), '\'', quote_);
+    return value;
 }
 
 // What stands in a string of one part, behind a beginning of some characters: with a stand-in for
@@ -186,7 +212,7 @@ void reading::find_misread_string(const piece &statement) {
         else if (next > 0)
             end = each.end - edits_[next - 1].source.end + edits_[next - 1].text.end;
         if (end >= 2 && read[end - 1] == '\'' && read[end - 2] == '\\' && end - 1 < last_quote) {
-            misread_ = fault{&misread_string, {each.begin, each.end}};
+            find_fault(misread_string, each);
             return;
         }
     }

@@ -69,9 +69,10 @@ private:
     void replace_mark(const mark &found);
     void replace_string(const mark &found, std::optional<std::string> inside);
     bool has_percents() const;
-    std::optional<std::string> with_stand_in(std::string_view value) const;
+    std::optional<std::string> with_stand_in(std::optional<std::string> value) const;
     std::optional<std::string> inside_of(std::string_view string, std::size_t beginning) const;
     const edit *edit_before(std::size_t at) const;
+    void find_fault(const own_finding &what, const mark &where);
     void find_misread_string(const piece &statement);
     std::size_t stand_in_at(std::string_view text, std::size_t at, std::size_t &size) const;
 

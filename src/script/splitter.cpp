@@ -6,65 +6,68 @@
 #include <deque>
 #include <string>
 
+#include "psql_commands.h"
 #include "scanner.h"
 #include "words.h"
 
 namespace script {
 
 std::size_t scan::read_on(char *to, std::size_t room) {
-    constexpr std::size_t part = std::size_t{1} << 16;
     if (handed == window.size()) {
         window.erase(0, kept);
         moved += kept;
         begin = begin > kept ? begin - kept : 0;
         end -= kept;
         kept = 0;
-        const std::size_t size = window.size();
-        window.resize(size + std::max(part, size));
-        window.resize(size + from.read(window.data() + size, window.size() - size));
-        handed = size;
+        handed = window.size();
+        // The scanner reads a token of one part again, so one that is long is told to go on for as
+        // long.
+        const std::size_t unfinished = handed - end;
+        std::size_t count = 0;
+        do {
+            count = from.read(part.data(), part.size());
+            window.append(part.data(), count);
+        } while (count > 0 && unfinished > part.size() && window.size() - handed < unfinished);
     }
     const std::size_t count = std::string_view(window).substr(handed).copy(to, room);
     handed += count;
     return count;
 }
 
+void scan::pass(token found) {
+    switch (found) {
+    case token::string:
+    case token::escape_string:
+    case token::continuation:
+    case token::prefixed_string: next_part = part_of_string::in_next_line; break;
+    case token::blank:
+        if (next_part == part_of_string::none)
+            break;
+        if (text().find('\n') != std::string_view::npos)
+            next_part = part_of_string::after_newline;
+        else if (text().find('\r') != std::string_view::npos)
+            next_part = std::max(next_part, part_of_string::after_return);
+        break;
+    case token::line_comment: break;
+    default: next_part = part_of_string::none; break;
+    }
+}
+
 namespace {
 
 // What the tokens are marks of, in their order.
 constexpr mark_kind mark_kinds[] = {
-    mark_kind::comment,         mark_kind::comment,       mark_kind::comment,
-    mark_kind::string,          mark_kind::escape_string, mark_kind::dollar_string,
-    mark_kind::prefixed_string, mark_kind::question,      mark_kind::dollar,
-    mark_kind::named,           mark_kind::format,        mark_kind::pyformat,
-    mark_kind::percents,
+    mark_kind::comment,       mark_kind::comment,         mark_kind::comment,
+    mark_kind::comment,       mark_kind::string,          mark_kind::escape_string,
+    mark_kind::dollar_string, mark_kind::prefixed_string, mark_kind::question,
+    mark_kind::dollar,        mark_kind::named,           mark_kind::format,
+    mark_kind::pyformat,      mark_kind::percents,
 };
 static_assert(std::size(mark_kinds) == static_cast<std::size_t>(token::end));
 
 bool stands_between(token kind) {
-    return kind == token::line_comment || kind == token::block_comment || kind == token::command;
-}
-
-// The commands of psql that send what has been read of a statement.
-bool sends(std::string_view command) {
-    constexpr std::string_view senders[] = {"g",     "gx",    "gset",        "gexec",
-                                            "gdesc", "watch", "crosstabview"};
-    const std::string_view name = first_word(command.substr(1));
-    return std::find(std::begin(senders), std::end(senders), name) != std::end(senders);
-}
-
-// Whether the lines behind a \copy are its data.
-bool copies_from_input(std::string_view command) {
-    std::string_view before;
-    for (std::string_view left = command.substr(1); !left.empty();) {
-        left = without_blanks_before(left);
-        const std::string_view word = first_word(left);
-        if (is_word(before, "from") && is_word(word, "stdin"))
-            return is_word(first_word(command.substr(1)), "copy");
-        left.remove_prefix(std::min(left.size(), std::max<std::size_t>(word.size(), 1)));
-        before = word;
-    }
-    return false;
+    return kind == token::blank || kind == token::line_comment || kind == token::block_comment ||
+           kind == token::command || kind == token::copy_line;
 }
 
 bool is_end_of_copy_data(std::string_view line) {
@@ -77,9 +80,17 @@ public:
     void begin() { *this = {}; }
 
     void take(std::string_view word, std::size_t open_parentheses) {
-        if (count_ > 0 && first_[0] != 'c')
-            return; // no CREATE, no COPY
-        if (count_ < first_.size())
+        if (count_ == 0)
+            matters_ = in_lower_case(word[0]) == 'c'; // CREATE, COPY
+        if (!matters_) {
+            ++count_;
+            return;
+        }
+        constexpr std::string_view beginning[] = {"create", "or", "replace", "function",
+                                                  "procedure"};
+        if (count_ < first_.size() &&
+            std::any_of(std::begin(beginning), std::end(beginning),
+                        [text = word](std::string_view known) { return is_word(text, known); }))
             first_[count_] = in_lower_case(word[0]);
         ++count_;
         if (is_function() && open_parentheses == 0) {
@@ -88,8 +99,14 @@ public:
             else if (open_bodies_ > 0 && is_word(word, "end"))
                 --open_bodies_;
         }
-        has_from_stdin_ |= is_behind_from_ && is_word(word, "stdin");
+        has_from_stdin_ |= open_parentheses == 0 && is_behind_from_ && is_word(word, "stdin");
         is_behind_from_ = is_word(word, "from");
+    }
+
+    // psql takes what follows on \; for another statement, in whatever it stands.
+    void begin_next() {
+        first_ = {};
+        count_ = 0;
     }
 
     // Whether it is in the body of a function, and a semicolon does not end it.
@@ -112,6 +129,7 @@ private:
     std::size_t open_bodies_ = 0;
     bool is_behind_from_ = false;
     bool has_from_stdin_ = false;
+    bool matters_ = false;
 };
 
 } // namespace
@@ -139,6 +157,12 @@ private:
 
     part read() {
         const token kind = scanner_next(scanner_);
+        scan_.pass(kind);
+        if (kind == token::command && copies_from_input(scan_.text()))
+            ++scan_.copies_open;
+        if (kind == token::copy_line && is_end_of_copy_data(scan_.text()) &&
+            --scan_.copies_open == 0)
+            scanner_end_copy_data(scanner_);
         if (kind == token::end)
             return {kind, scan_.moved + scan_.end, scan_.moved + scan_.end};
         return {kind, scan_.moved + scan_.begin, scan_.moved + scan_.end};
@@ -150,9 +174,7 @@ private:
 
     const piece *give(piece_kind kind, std::size_t begin, std::size_t end);
     const piece *give(const part &given);
-    const piece *give_copy_line(const part &line);
     const piece *read_statement(part first);
-    void drop_to(std::size_t end);
     void mark_in_statement(const part &found, std::size_t statement);
 
     scan scan_;
@@ -163,49 +185,27 @@ private:
     std::deque<part> waiting_;
     statement_words words_;
     bool is_behind_limit_ = false;
-    bool begins_copy_data_ = false;
 };
 
 const piece *splitter::worker::give(piece_kind kind, std::size_t begin, std::size_t end) {
+    at_ = at_.after(text_of(given_, begin));
     piece_.kind = kind;
     piece_.text = text_of(begin, end);
     piece_.begin = at_;
     piece_.offset = begin;
-    drop_to(end);
+    at_ = at_.after(piece_.text);
+    given_ = end;
     return &piece_;
 }
 
-// Goes on behind a text that is no piece, or is one now.
-void splitter::worker::drop_to(std::size_t end) {
-    at_ = at_.after(text_of(given_, end));
-    given_ = end;
-}
-
-// The piece of a part that stands where the last one has ended; NULL at the end.
 const piece *splitter::worker::give(const part &given) {
     switch (given.kind) {
-    case token::end: return nullptr;
     case token::line_comment: return give(piece_kind::line_comment, given.begin, given.end);
     case token::block_comment: return give(piece_kind::block_comment, given.begin, given.end);
-    case token::copy_line: return give_copy_line(given);
-    case token::command:
-        if (copies_from_input(text_of(given.begin, given.end)))
-            scanner_expect_copy_data(scanner_, begins_copy_data_ = true);
-        return give(piece_kind::command, given.begin, given.end);
-    default: return read_statement(given);
+    case token::command: return give(piece_kind::command, given.begin, given.end);
+    case token::copy_line: return give(piece_kind::copy_data, given.begin, given.end);
+    default: return give(piece_kind::blank, given.begin, given.end);
     }
-}
-
-// A line of the data; what is left of the line before it comes first.
-const piece *splitter::worker::give_copy_line(const part &line) {
-    const std::string_view text = text_of(line.begin, line.end);
-    const bool is_head = begins_copy_data_;
-    begins_copy_data_ = false;
-    if (!is_head && is_end_of_copy_data(text))
-        scanner_expect_copy_data(scanner_, false);
-    const bool is_blank_line = std::all_of(text.begin(), text.end(), is_blank);
-    return give(is_head && is_blank_line ? piece_kind::blank : piece_kind::copy_data, line.begin,
-                line.end);
 }
 
 void splitter::worker::mark_in_statement(const part &found, std::size_t statement) {
@@ -214,26 +214,42 @@ void splitter::worker::mark_in_statement(const part &found, std::size_t statemen
         return;
     const bool is_string = found.kind == token::string || found.kind == token::prefixed_string;
     piece_.marks.push_back({mark_kinds[index], found.begin - statement, found.end - statement,
-                            is_string && scan_.is_plain, is_behind_limit_});
+                            is_string && scan_.is_plain, is_behind_limit_, scan_.has_end});
 }
 
 const piece *splitter::worker::read_statement(part first) {
     piece_.marks.clear();
+    piece_.verb = {};
     piece_.is_ended_by_command = false;
     words_.begin();
     is_behind_limit_ = false;
 
     const std::size_t begin = first.begin;
-    std::size_t end = begin;
+    std::size_t end = first.begin;
     std::size_t verb_size = 0;
     std::size_t open = 0;
     part found = first;
-    for (; found.kind != token::end; found = read()) {
+    for (;; found = read()) {
+        if (found.kind == token::end)
+            break;
         if (found.kind == token::semicolon && open == 0 && !words_.is_in_body())
             break;
+        if (found.kind == token::semicolon && scan_.text() == "\\;")
+            words_.begin_next();
         if (found.kind == token::command && sends(text_of(found.begin, found.end))) {
             piece_.is_ended_by_command = true;
             break;
+        }
+        if (found.kind == token::command && forgets(text_of(found.begin, found.end))) {
+            waiting_.clear();
+            return give(piece_kind::command, begin, found.end);
+        }
+        if (found.kind == token::continuation) {
+            waiting_.clear();
+            end = found.end;
+            piece_.marks.back().end = end - begin;
+            piece_.marks.back().has_end = scan_.has_end;
+            continue;
         }
         if (stands_between(found.kind)) {
             waiting_.push_back(found);
@@ -257,32 +273,39 @@ const piece *splitter::worker::read_statement(part first) {
             --open;
         }
     }
-    const bool has_semicolon = found.kind == token::semicolon;
+    // Blanks before the semicolon go, comments before it come behind it.
+    if (found.kind == token::semicolon &&
+        std::all_of(waiting_.begin(), waiting_.end(),
+                    [](const part &each) { return each.kind == token::blank; }))
+        waiting_.clear();
+    if (found.kind == token::command)
+        waiting_.push_back(found);
     const piece *const made = give(piece_kind::statement, begin, end);
     piece_.verb = piece_.text.substr(0, verb_size);
-    // Blanks before the semicolon go with it; comments before it come behind it.
-    if (has_semicolon && waiting_.empty())
-        drop_to(found.end);
-    else
-        waiting_.push_back(found);
-    if (has_semicolon && is_word(piece_.verb, "copy") && words_.has_from_stdin())
-        scanner_expect_copy_data(scanner_, begins_copy_data_ = true);
+    if (found.kind != token::end && is_word(piece_.verb, "copy") && words_.has_from_stdin())
+        ++scan_.copies_open;
     return made;
 }
 
 const piece *splitter::worker::next() {
     for (;;) {
-        if (waiting_.empty()) {
-            scan_.kept = given_ - scan_.moved;
-            waiting_.push_back(read());
-        }
-        const part first = waiting_.front();
-        if (first.begin > given_)
-            return give(piece_kind::blank, given_, first.begin);
-        waiting_.pop_front();
-        if (first.kind != token::semicolon)
+        if (!waiting_.empty()) {
+            const part first = waiting_.front();
+            waiting_.pop_front();
             return give(first);
-        drop_to(first.end); // an empty statement, or what has ended one before comments
+        }
+        scan_.kept = given_ - scan_.moved;
+        const part found = read();
+        switch (found.kind) {
+        case token::end: return nullptr;
+        case token::copy_line:
+        case token::blank:
+        case token::line_comment:
+        case token::block_comment:
+        case token::command: return give(found);
+        case token::semicolon: break; // an empty statement
+        default: return read_statement(found);
+        }
     }
 }
 

@@ -29,7 +29,7 @@ enum class piece_kind {
 
 // A part of a statement that a reader of it has to know.
 enum class mark_kind {
-    comment,         // or one of psql's commands
+    comment,         // or one of psql's commands, or COPY's data
     string,          // '...'
     escape_string,   // E'...'
     dollar_string,   // $$...$$
@@ -49,6 +49,7 @@ struct mark {
     std::size_t end;
     bool is_plain = false;        // of a string: its text is its value, and has no "%%"
     bool is_behind_limit = false; // LIMIT or OFFSET stands before it
+    bool has_end = true;          // of a string
 };
 
 struct piece {

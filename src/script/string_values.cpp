@@ -101,18 +101,19 @@ bool append_escape(std::string &value, std::string_view &text) {
 
 // Goes on behind the quote that a string goes on with in another line.
 bool skip_to_next_part(std::string_view &text) {
-    const std::size_t quote = text.find_first_not_of(" \t\n\r\f\v");
-    if (quote == std::string_view::npos)
-        return false;
-    if (text[quote] == '\'') {
-        text.remove_prefix(quote + 1);
-        return true;
+    for (;;) {
+        const std::size_t next = text.find_first_not_of(" \t\n\r\f\v");
+        if (next == std::string_view::npos)
+            return false;
+        if (text[next] == '\'') {
+            text.remove_prefix(next + 1);
+            return true;
+        }
+        const std::size_t end_of_comment = text.find_first_of("\n\r", next);
+        if (end_of_comment == std::string_view::npos)
+            return false;
+        text.remove_prefix(end_of_comment);
     }
-    const std::size_t end_of_comment = text.find_first_of("\n\r", quote);
-    if (end_of_comment == std::string_view::npos)
-        return false;
-    text.remove_prefix(end_of_comment);
-    return skip_to_next_part(text);
 }
 
 } // namespace

@@ -75,8 +75,6 @@ void locate(std::vector<finding> &findings, std::string_view text, position begi
 // What the library advises is not meant for scripts, where '' is a quote and statements end by
 // themselves.
 std::optional<std::string_view> hint_for_script(const quillet::diagnostic &said, char begin) {
-    if (said.id == "unended-string")
-        return "end it with a quote; a quote within a string is written twice";
     if (said.hint && said.id == "syntax-error" && begin == '\'')
         return "write the string without the letter before it"; // N'it''s'
     if (said.id == "syntax-error" && begin == ';')

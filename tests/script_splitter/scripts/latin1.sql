@@ -1,0 +1,3 @@
+select 1;
+select 'café; ÿ', été;
+select 2;

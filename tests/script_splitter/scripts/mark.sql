@@ -1,0 +1,3 @@
+﻿-- begins with a byte order mark
+select 1;
+select '﻿';

@@ -1,0 +1,9 @@
+CREATE RULE protect AS ON UPDATE TO t DO INSTEAD NOTHING;
+CREATE RULE log AS ON INSERT TO t DO ALSO (
+    INSERT INTO log VALUES (NEW.id, ';');
+    INSERT INTO log2 VALUES (NEW.id, ')'); -- (
+    /* ( */ DELETE FROM old WHERE name = "a(";
+);
+CREATE TRIGGER tr BEFORE INSERT ON t FOR EACH ROW EXECUTE FUNCTION check_it('a;', 'b''');
+CREATE POLICY p ON t USING (owner = current_user);
+SELECT 1;

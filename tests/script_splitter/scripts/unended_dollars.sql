@@ -1,0 +1,2 @@
+select 1; select $a$ ; $b$ $$ ; $A$
+select 2;

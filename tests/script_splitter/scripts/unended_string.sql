@@ -1,0 +1,3 @@
+select 1;
+select 'it's; select 'it';
+select 2;
