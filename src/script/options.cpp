@@ -4,6 +4,9 @@
 
 #include <iostream>
 
+#include "known_findings.h"
+#include "output.h"
+
 namespace script {
 
 namespace {
@@ -110,6 +113,13 @@ void add_messages(CLI::App &app, options &asked) {
         ->capture_default_str();
 }
 
+void write_ids() {
+    output to(std::nullopt);
+    to.write(list_of_known_findings());
+    to.finish();
+    throw CLI::Success(); // the run ends here
+}
+
 } // namespace
 
 quillet::target options::target() const {
@@ -129,6 +139,7 @@ std::optional<options> read_options(int argc, char **argv, int *status) {
     add_input(app, asked, given);
     add_output(app, asked, given);
     add_messages(app, asked);
+    app.add_flag_callback("--list-ids", write_ids, "Print each id with its severity and message");
     app.set_version_flag("--version", "quillet-script " QUILLET_VERSION, "Print the version");
     app.footer("The exit status is 0 if all was translated or copied, 1 if something was not, and\n"
                "2 for a wrong option or a file that cannot be read or written.");

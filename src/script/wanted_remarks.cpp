@@ -2,20 +2,7 @@
 
 #include <algorithm>
 
-#include "finding.h"
-
 namespace script {
-
-bool is_known_id(std::string_view id) {
-    for (const own_finding *own : own_findings)
-        if (own->id == id)
-            return true;
-    quillet_diagnostic known{};
-    for (std::size_t i = 0; quillet_get_known_diagnostic(i, &known) == 1; ++i)
-        if (known.id == id)
-            return true;
-    return false;
-}
 
 void wanted_remarks::set_all(bool warnings, bool notes) {
     warnings_ = warnings;

@@ -11,9 +11,6 @@
 
 namespace script {
 
-// Whether there is a diagnostic with this id.
-bool is_known_id(std::string_view id);
-
 // The last word on an id, or on all, holds.
 class wanted_remarks {
 public:

@@ -5,7 +5,9 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -17,6 +19,8 @@ using testing::AllOf;
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
+using testing::IsSupersetOf;
+using testing::MatchesRegex;
 using testing::Not;
 using testing::StartsWith;
 
@@ -30,7 +34,7 @@ TEST(Options, HelpNamesEachOption) {
     for (const char *option :
          {"--to", "-o,--output", "--format", "--input", "--placeholders", "--placeholders-out",
           "--backslash-escapes", "--warn", "--no-warn", "--notes", "--strict", "--color",
-          "--report", "--docs", "--version", "--help"})
+          "--report", "--docs", "--list-ids", "--version", "--help"})
         EXPECT_THAT(made.output, HasSubstr(option));
 }
 
@@ -38,6 +42,57 @@ TEST(Options, VersionIsOneLine) {
     const process_result made = run({{"--version"}});
     EXPECT_EQ(made.output, "quillet-script " VERSION "\n");
     EXPECT_EQ(made.status, 0);
+}
+
+std::vector<std::string> lines_of(const std::string &text) {
+    std::vector<std::string> lines;
+    std::istringstream from(text);
+    for (std::string line; std::getline(from, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+TEST(Options, ListIdsHasALineForEach) {
+    const process_result made = run({{"--list-ids"}});
+    EXPECT_EQ(made.status, 0);
+    EXPECT_EQ(made.errors, "");
+    EXPECT_THAT(
+        lines_of(made.output),
+        IsSupersetOf(
+            {"copied\tnote\tcopied as it is: what is translated are SELECT, INSERT, UPDATE and "
+             "DELETE",
+             "not-utf8\twarning\tbytes that are no character of UTF-8",
+             "syntax-error\terror\tdepends on the statement",
+             "string-backslash\twarning\tMySQL takes a backslash in a string for an escape, "
+             "PostgreSQL for itself",
+             "text-form\tnote\ta truth value, a float or a time has another form as a text in "
+             "MySQL",
+             "misspelt-char\twarning\tthe type is written as CAHR, which PostgreSQL does not know",
+             "refused-initcap\trefusal\tINITCAP function not implemented in MySQL backend"}));
+}
+
+TEST(Options, ListIdsHasWhatMayBeChosen) {
+    const std::vector<std::string> lines = lines_of(run({{"--list-ids"}}).output);
+    EXPECT_GT(lines.size(), 100);
+    EXPECT_TRUE(std::is_sorted(lines.begin(), lines.end()));
+    EXPECT_EQ(std::adjacent_find(lines.begin(), lines.end()), lines.end()) << "twice the same";
+    for (const std::string &line : lines) {
+        EXPECT_THAT(line, MatchesRegex("[a-z0-9-]+\t(note|warning|refusal|error)\t[^\t]+"));
+        const std::string id = line.substr(0, line.find('\t'));
+        EXPECT_EQ(run({{"--warn", id, "--no-warn", id}, "select 1"}).status, 0) << id;
+    }
+}
+
+TEST(Options, ListIdsLooksAtNoFile) {
+    const process_result made = run({{"--list-ids", "none.sql"}});
+    EXPECT_EQ(made.status, 0);
+    EXPECT_EQ(made.errors, "");
+}
+
+TEST(Options, ListIdsThatCannotBeWrittenIsSaid) {
+    const process_result made = run({.arguments = {"--list-ids"}, .output = sink::full_device});
+    EXPECT_EQ(made.status, 2);
+    EXPECT_EQ(made.errors, "quillet-script: standard output: No space left on device\n");
 }
 
 TEST(Options, WrongOnesAreUsageErrors) {
