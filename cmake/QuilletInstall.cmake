@@ -7,7 +7,8 @@ set(made ${PROJECT_BINARY_DIR}/package)
 
 install(TARGETS quillet_static quillet_shared EXPORT quillet)
 install(DIRECTORY include/quillet DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN man EXCLUDE)
+install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}
+    PATTERN man EXCLUDE PATTERN site EXCLUDE)
 
 install(EXPORT quillet FILE quilletTargets.cmake NAMESPACE quillet:: DESTINATION ${package})
 write_basic_package_version_file(${made}/quilletConfigVersion.cmake COMPATIBILITY SameMajorVersion)
