@@ -174,17 +174,17 @@ outcomes run(std::string_view text, const options &asked) {
 // in its course, has a command without a name, which ends the one before it, or has a statement in
 // a line with COPY, before whose data it may become a comment of some lines.
 bool is_open(std::string_view text, const std::vector<kept_piece> &pieces) {
-    std::size_t line_of_copy = 0;
+    bool is_in_line_of_copy = false;
     for (const kept_piece &each : pieces) {
         if (each.kind == piece_kind::command && each.text.starts_with("\\\\"))
             return true;
+        if (each.kind == piece_kind::blank && each.text.find('\n') != std::string::npos)
+            is_in_line_of_copy = false;
         if (each.kind != piece_kind::statement)
             continue;
-        if (each.verb.size() == 3 || each.line == line_of_copy)
+        if (each.verb.size() == 3 || is_in_line_of_copy)
             return true;
-        const auto lines =
-            static_cast<std::size_t>(std::count(each.text.begin(), each.text.end(), '\n'));
-        line_of_copy = each.verb.size() == 4 ? each.line + lines : 0;
+        is_in_line_of_copy = each.verb.size() == 4;
     }
     const std::string more = std::string(text) + "\n;select 1\n";
     const auto longer = split(more, backslashes::are_characters, more.size());

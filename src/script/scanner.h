@@ -57,13 +57,15 @@ struct scan {
     }
 
     // Whether a string here is a part of the escape string in a line before. PostgreSQL's server
-    // has escapes in it then; psql has them after a carriage return alone, as it reads line by
-    // line.
+    // has escapes in it then; psql has those of the part before after a carriage return alone, as
+    // it reads line by line.
     bool continues_escape_string() const {
         return next_part >= part_of_string::after_return &&
                (string_kind == token::escape_string || string_kind == token::continuation);
     }
-    bool has_escapes_in_continuation() const { return next_part == part_of_string::after_return; }
+    bool has_escapes_in_continuation() const {
+        return has_escapes && next_part == part_of_string::after_return;
+    }
 
     source &from;
     std::vector<char> part = std::vector<char>(std::size_t{1} << 16); // what is read at a time
@@ -79,6 +81,7 @@ struct scan {
 
     // Of the last string.
     token string_kind = token::string;
+    bool has_escapes = false;
     bool is_plain = true;
     bool has_end = true; // and of all tokens before the end of the script
     std::string tag;     // of a dollar-quoted one
