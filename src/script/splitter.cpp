@@ -273,16 +273,27 @@ const piece *splitter::worker::read_statement(part first) {
             --open;
         }
     }
-    // Blanks before the semicolon go, comments before it come behind it.
-    if (found.kind == token::semicolon &&
-        std::all_of(waiting_.begin(), waiting_.end(),
-                    [](const part &each) { return each.kind == token::blank; }))
-        waiting_.clear();
+    const bool has_data =
+        is_word(text_of(begin, begin + verb_size), "copy") && words_.has_from_stdin();
+    // Blanks before the semicolon go, comments before it come behind it; but COPY's data must come
+    // in the line after the semicolon.
+    if (found.kind == token::semicolon) {
+        const bool is_all_blank =
+            std::all_of(waiting_.begin(), waiting_.end(),
+                        [](const part &each) { return each.kind == token::blank; });
+        if (has_data && !is_all_blank) {
+            for (const part &inside : waiting_)
+                mark_in_statement(inside, begin);
+            end = found.begin;
+        }
+        if (has_data || is_all_blank)
+            waiting_.clear();
+    }
     if (found.kind == token::command)
         waiting_.push_back(found);
     const piece *const made = give(piece_kind::statement, begin, end);
     piece_.verb = piece_.text.substr(0, verb_size);
-    if (found.kind != token::end && is_word(piece_.verb, "copy") && words_.has_from_stdin())
+    if (found.kind != token::end && has_data)
         ++scan_.copies_open;
     return made;
 }
