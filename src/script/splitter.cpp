@@ -1,13 +1,13 @@
 #include "splitter.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
 #include <deque>
+#include <optional>
 #include <string>
 
 #include "psql_commands.h"
 #include "scanner.h"
+#include "statement_words.h"
 #include "words.h"
 
 namespace script {
@@ -74,64 +74,6 @@ bool is_end_of_copy_data(std::string_view line) {
     return line == "\\.\n" || line == "\\.\r\n" || line == "\\.";
 }
 
-// What the words of a statement tell of its end.
-class statement_words {
-public:
-    void begin() { *this = {}; }
-
-    void take(std::string_view word, std::size_t open_parentheses) {
-        if (count_ == 0)
-            matters_ = in_lower_case(word[0]) == 'c'; // CREATE, COPY
-        if (!matters_) {
-            ++count_;
-            return;
-        }
-        constexpr std::string_view beginning[] = {"create", "or", "replace", "function",
-                                                  "procedure"};
-        if (count_ < first_.size() &&
-            std::any_of(std::begin(beginning), std::end(beginning),
-                        [text = word](std::string_view known) { return is_word(text, known); }))
-            first_[count_] = in_lower_case(word[0]);
-        ++count_;
-        if (is_function() && open_parentheses == 0) {
-            if (is_word(word, "begin") || (open_bodies_ > 0 && is_word(word, "case")))
-                ++open_bodies_;
-            else if (open_bodies_ > 0 && is_word(word, "end"))
-                --open_bodies_;
-        }
-        has_from_stdin_ |= open_parentheses == 0 && is_behind_from_ && is_word(word, "stdin");
-        is_behind_from_ = is_word(word, "from");
-    }
-
-    // psql takes what follows on \; for another statement, in whatever it stands.
-    void begin_next() {
-        first_ = {};
-        count_ = 0;
-    }
-
-    // Whether it is in the body of a function, and a semicolon does not end it.
-    bool is_in_body() const { return open_bodies_ > 0; }
-
-    bool has_from_stdin() const { return has_from_stdin_; }
-
-private:
-    // CREATE [OR REPLACE] FUNCTION or PROCEDURE, told by the first letters as psql does.
-    bool is_function() const {
-        const auto is_kind = [this](std::size_t at) {
-            return first_[at] == 'f' || first_[at] == 'p';
-        };
-        return first_[0] == 'c' &&
-               (is_kind(1) || (first_[1] == 'o' && first_[2] == 'r' && is_kind(3)));
-    }
-
-    std::array<char, 4> first_{};
-    std::size_t count_ = 0;
-    std::size_t open_bodies_ = 0;
-    bool is_behind_from_ = false;
-    bool has_from_stdin_ = false;
-    bool matters_ = false;
-};
-
 } // namespace
 
 class splitter::worker {
@@ -174,8 +116,13 @@ private:
 
     const piece *give(piece_kind kind, std::size_t begin, std::size_t end);
     const piece *give(const part &given);
-    const piece *read_statement(part first);
-    void mark_in_statement(const part &found, std::size_t statement);
+    const piece *read_statement(const part &first);
+    const piece *end_statement(const part &last);
+    bool ends_statement(const part &found) const;
+    void take(const part &found);
+    void wait(const part &found);
+    void mark(const part &found);
+    void mark_waiting();
 
     scan scan_;
     void *scanner_;
@@ -183,6 +130,13 @@ private:
     std::size_t given_ = 0; // how far the script has been given out
     position at_;           // the position of that
     std::deque<part> waiting_;
+
+    // Of the statement that is read.
+    std::size_t begin_ = 0;
+    std::size_t end_ = 0; // of its last token
+    std::size_t verb_size_ = 0;
+    std::size_t open_ = 0;      // parentheses
+    std::optional<part> blank_; // the last token, if it is one
     statement_words words_;
     bool is_behind_limit_ = false;
 };
@@ -208,93 +162,115 @@ const piece *splitter::worker::give(const part &given) {
     }
 }
 
-void splitter::worker::mark_in_statement(const part &found, std::size_t statement) {
+void splitter::worker::mark(const part &found) {
     const auto index = static_cast<std::size_t>(found.kind);
     if (index >= std::size(mark_kinds))
         return;
     const bool is_string = found.kind == token::string || found.kind == token::prefixed_string;
-    piece_.marks.push_back({mark_kinds[index], found.begin - statement, found.end - statement,
+    piece_.marks.push_back({mark_kinds[index], found.begin - begin_, found.end - begin_,
                             is_string && scan_.is_plain, is_behind_limit_, scan_.has_end});
 }
 
-const piece *splitter::worker::read_statement(part first) {
-    piece_.marks.clear();
-    piece_.verb = {};
-    piece_.is_ended_by_command = false;
-    words_.begin();
-    is_behind_limit_ = false;
+void splitter::worker::mark_waiting() {
+    for (const part &inside : waiting_)
+        mark(inside);
+    waiting_.clear();
+    blank_.reset();
+}
 
-    const std::size_t begin = first.begin;
-    std::size_t end = first.begin;
-    std::size_t verb_size = 0;
-    std::size_t open = 0;
+void splitter::worker::wait(const part &found) {
+    if (blank_)
+        waiting_.push_back(*blank_);
+    blank_.reset();
+    waiting_.push_back(found);
+}
+
+bool splitter::worker::ends_statement(const part &found) const {
+    switch (found.kind) {
+    case token::end: return true;
+    case token::semicolon: return open_ == 0 && !words_.is_in_body();
+    case token::command: return sends(text_of(found.begin, found.end));
+    default: return false;
+    }
+}
+
+// Takes a token of the statement, or one that may be between its tokens.
+void splitter::worker::take(const part &found) {
+    if (found.kind == token::blank) {
+        blank_ = found;
+        return;
+    }
+    if (stands_between(found.kind)) {
+        wait(found);
+        return;
+    }
+    end_ = found.end;
+    if (found.kind == token::continuation) {
+        waiting_.clear();
+        blank_.reset();
+        piece_.marks.back().end = end_ - begin_;
+        piece_.marks.back().has_end = scan_.has_end;
+        return;
+    }
+    mark_waiting();
+    mark(found);
+    is_behind_limit_ = false;
+    if (found.kind == token::word) {
+        const std::string_view word = text_of(found.begin, found.end);
+        words_.take(word, open_);
+        is_behind_limit_ = is_word(word, "limit") || is_word(word, "offset");
+        if (found.begin == begin_)
+            verb_size_ = word.size();
+    } else if (found.kind == token::open) {
+        ++open_;
+    } else if (found.kind == token::close && open_ > 0) {
+        --open_;
+    } else if (found.kind == token::semicolon && scan_.text() == "\\;") {
+        words_.begin_next();
+    }
+}
+
+const piece *splitter::worker::read_statement(const part &first) {
+    piece_.marks.clear();
+    words_.begin();
+    blank_.reset();
+    is_behind_limit_ = false;
+    begin_ = end_ = first.begin;
+    verb_size_ = open_ = 0;
     part found = first;
-    for (;; found = read()) {
-        if (found.kind == token::end)
-            break;
-        if (found.kind == token::semicolon && open == 0 && !words_.is_in_body())
-            break;
-        if (found.kind == token::semicolon && scan_.text() == "\\;")
-            words_.begin_next();
-        if (found.kind == token::command && sends(text_of(found.begin, found.end))) {
-            piece_.is_ended_by_command = true;
-            break;
-        }
+    for (; !ends_statement(found); found = read()) {
         if (found.kind == token::command && forgets(text_of(found.begin, found.end))) {
             waiting_.clear();
-            return give(piece_kind::command, begin, found.end);
+            return give(piece_kind::command, begin_, found.end);
         }
-        if (found.kind == token::continuation) {
-            waiting_.clear();
-            end = found.end;
-            piece_.marks.back().end = end - begin;
-            piece_.marks.back().has_end = scan_.has_end;
-            continue;
-        }
-        if (stands_between(found.kind)) {
-            waiting_.push_back(found);
-            continue;
-        }
-        for (const part &inside : waiting_)
-            mark_in_statement(inside, begin);
-        waiting_.clear();
-        mark_in_statement(found, begin);
-        end = found.end;
-        is_behind_limit_ = false;
-        if (found.kind == token::word) {
-            const std::string_view word = text_of(found.begin, found.end);
-            words_.take(word, open);
-            is_behind_limit_ = is_word(word, "limit") || is_word(word, "offset");
-            if (found.begin == begin)
-                verb_size = word.size();
-        } else if (found.kind == token::open) {
-            ++open;
-        } else if (found.kind == token::close && open > 0) {
-            --open;
-        }
+        take(found);
     }
+    return end_statement(found);
+}
+
+// Blanks before a semicolon go, comments before it come behind it; but COPY's data must come in the
+// line after the semicolon.
+const piece *splitter::worker::end_statement(const part &last) {
     const bool has_data =
-        is_word(text_of(begin, begin + verb_size), "copy") && words_.has_from_stdin();
-    // Blanks before the semicolon go, comments before it come behind it; but COPY's data must come
-    // in the line after the semicolon.
-    if (found.kind == token::semicolon) {
-        const bool is_all_blank =
-            std::all_of(waiting_.begin(), waiting_.end(),
-                        [](const part &each) { return each.kind == token::blank; });
-        if (has_data && !is_all_blank) {
-            for (const part &inside : waiting_)
-                mark_in_statement(inside, begin);
-            end = found.begin;
-        }
-        if (has_data || is_all_blank)
-            waiting_.clear();
+        is_word(text_of(begin_, begin_ + verb_size_), "copy") && words_.has_from_stdin();
+    if (last.kind != token::semicolon) {
+        if (blank_)
+            waiting_.push_back(*blank_);
+        if (last.kind == token::command)
+            waiting_.push_back(last);
+    } else if (waiting_.empty()) {
+        blank_.reset();
+    } else if (has_data) {
+        mark_waiting();
+        end_ = last.begin;
+    } else if (blank_) {
+        waiting_.push_back(*blank_);
     }
-    if (found.kind == token::command)
-        waiting_.push_back(found);
-    const piece *const made = give(piece_kind::statement, begin, end);
-    piece_.verb = piece_.text.substr(0, verb_size);
-    if (found.kind != token::end && has_data)
+    if (last.kind != token::end && has_data)
         ++scan_.copies_open;
+    const piece *const made = give(piece_kind::statement, begin_, end_);
+    piece_.verb = piece_.text.substr(0, verb_size_);
+    piece_.is_ended_by_command = last.kind == token::command;
     return made;
 }
 
