@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <deque>
-#include <optional>
 #include <string>
 
 #include "psql_commands.h"
@@ -121,6 +120,7 @@ private:
     bool ends_statement(const part &found) const;
     void take(const part &found);
     void wait(const part &found);
+    void wait_for_blank(std::size_t end);
     void mark(const part &found);
     void mark_waiting();
 
@@ -135,8 +135,8 @@ private:
     std::size_t begin_ = 0;
     std::size_t end_ = 0; // of its last token
     std::size_t verb_size_ = 0;
-    std::size_t open_ = 0;      // parentheses
-    std::optional<part> blank_; // the last token, if it is one
+    std::size_t open_ = 0;  // parentheses
+    std::size_t blank_ = 0; // where the last token begins, if it is one; 0: it is none
     statement_words words_;
     bool is_behind_limit_ = false;
 };
@@ -175,13 +175,17 @@ void splitter::worker::mark_waiting() {
     for (const part &inside : waiting_)
         mark(inside);
     waiting_.clear();
-    blank_.reset();
+    blank_ = 0;
+}
+
+void splitter::worker::wait_for_blank(std::size_t end) {
+    if (blank_ > 0)
+        waiting_.push_back({token::blank, blank_, end});
+    blank_ = 0;
 }
 
 void splitter::worker::wait(const part &found) {
-    if (blank_)
-        waiting_.push_back(*blank_);
-    blank_.reset();
+    wait_for_blank(found.begin);
     waiting_.push_back(found);
 }
 
@@ -197,7 +201,7 @@ bool splitter::worker::ends_statement(const part &found) const {
 // Takes a token of the statement, or one that may be between its tokens.
 void splitter::worker::take(const part &found) {
     if (found.kind == token::blank) {
-        blank_ = found;
+        blank_ = found.begin;
         return;
     }
     if (stands_between(found.kind)) {
@@ -207,7 +211,7 @@ void splitter::worker::take(const part &found) {
     end_ = found.end;
     if (found.kind == token::continuation) {
         waiting_.clear();
-        blank_.reset();
+        blank_ = 0;
         piece_.marks.back().end = end_ - begin_;
         piece_.marks.back().has_end = scan_.has_end;
         return;
@@ -233,7 +237,7 @@ void splitter::worker::take(const part &found) {
 const piece *splitter::worker::read_statement(const part &first) {
     piece_.marks.clear();
     words_.begin();
-    blank_.reset();
+    blank_ = 0;
     is_behind_limit_ = false;
     begin_ = end_ = first.begin;
     verb_size_ = open_ = 0;
@@ -254,17 +258,16 @@ const piece *splitter::worker::end_statement(const part &last) {
     const bool has_data =
         is_word(text_of(begin_, begin_ + verb_size_), "copy") && words_.has_from_stdin();
     if (last.kind != token::semicolon) {
-        if (blank_)
-            waiting_.push_back(*blank_);
+        wait_for_blank(last.begin);
         if (last.kind == token::command)
             waiting_.push_back(last);
     } else if (waiting_.empty()) {
-        blank_.reset();
+        blank_ = 0;
     } else if (has_data) {
         mark_waiting();
         end_ = last.begin;
-    } else if (blank_) {
-        waiting_.push_back(*blank_);
+    } else {
+        wait_for_blank(last.begin);
     }
     if (last.kind != token::end && has_data)
         ++scan_.copies_open;
