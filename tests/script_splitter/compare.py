@@ -88,7 +88,8 @@ def our_pieces(files):
     found = None
     output = subprocess.run([BUILD / "script_pieces", *files], stdout=subprocess.PIPE, check=True).stdout
     for line in output.decode().splitlines() + ["file end"]:
-        what, *where = line.split(" ")
+        what, _, rest = line.partition(" ")
+        where = [rest] if what == "file" else rest.split()
         if what == "file":
             for statement in (each for each in (found or []) if each != "again"):
                 statement.has_companion = is_followed_by_separator(script, statement.end, between)
@@ -196,7 +197,8 @@ def pg_query_statements(files):
     scripts = {}
     output = subprocess.run([BUILD / "pg_query_statements", *files], stdout=subprocess.PIPE, check=True).stdout
     for line in output.decode().splitlines():
-        what, *where = line.split(" ")
+        what, _, rest = line.partition(" ")
+        where = [rest] if what == "file" else rest.split()
         if what == "file":
             name = where[0]
             scripts[name] = []
