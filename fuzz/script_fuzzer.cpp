@@ -9,6 +9,7 @@
 
 #include "comments.h"
 #include "output.h"
+#include "parted_source.h"
 #include "splitter.h"
 #include "support.h"
 #include "translator.h"
@@ -23,22 +24,6 @@ constexpr placeholder_style styles[] = {placeholder_style::none,     placeholder
                                         placeholder_style::question, placeholder_style::named,
                                         placeholder_style::format,   placeholder_style::pyformat,
                                         placeholder_style::any};
-
-// Hands a script out in parts of some size.
-class parted_source final : public source {
-public:
-    parted_source(std::string_view text, std::size_t size) : left_(text), size_(size) {}
-
-    std::size_t read(char *to, std::size_t room) override {
-        const std::size_t count = left_.copy(to, std::min(room, size_));
-        left_.remove_prefix(count);
-        return count;
-    }
-
-private:
-    std::string_view left_;
-    std::size_t size_;
-};
 
 struct kept_mark {
     mark_kind kind;

@@ -116,16 +116,6 @@ finding make_finding_of(const quillet::diagnostic &said, translation &made, cons
 
 } // namespace
 
-std::string_view name_of(outcome became) {
-    switch (became) {
-    case outcome::translated: return "translated";
-    case outcome::refused: return "refused";
-    case outcome::not_understood: return "not understood";
-    case outcome::copied: break;
-    }
-    return "copied";
-}
-
 finding make_finding(const own_finding &row, std::size_t offset, std::size_t length) {
     finding made{row.severity, 0, row.id, row.message, std::nullopt, offset, length, {}};
     if (!row.hint.empty())

@@ -21,8 +21,6 @@ namespace script {
 // What becomes of a statement.
 enum class outcome { translated, refused, not_understood, copied };
 
-std::string_view name_of(outcome became);
-
 // What the statement's piece has is not copied.
 struct translation {
     outcome became = outcome::not_understood;

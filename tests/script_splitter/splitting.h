@@ -9,27 +9,12 @@
 #include <string_view>
 #include <vector>
 
+#include "parted_source.h"
 #include "splitter.h"
 
 namespace script_tests {
 
 using namespace script;
-
-// Hands a text out in parts of some size.
-class parted_source final : public source {
-public:
-    parted_source(std::string_view text, std::size_t size) : left_(text), size_(size) {}
-
-    std::size_t read(char *to, std::size_t room) override {
-        const std::size_t count = left_.copy(to, std::min(room, size_));
-        left_.remove_prefix(count);
-        return count;
-    }
-
-private:
-    std::string_view left_;
-    std::size_t size_;
-};
 
 struct kept_piece {
     piece_kind kind;
