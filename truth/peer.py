@@ -4,7 +4,7 @@ import logging
 
 import sqlglot
 
-from quillet import Diagnostic, Translation
+from library import Diagnostic, Translation
 
 NAME = f"sqlglot {sqlglot.__version__}"
 

@@ -1,21 +1,18 @@
 """Runs the corpus on PostgreSQL and MariaDB; truth/run installs and builds first and starts this."""
 
 import argparse
-import os
 import signal
 import sys
 
 import corpus
+import library
 import page
 import pairs
 import results
 import servers
 import sessions
-from quillet import Library
 from report import Report
 from trial import Trials
-
-LIBRARY = os.path.join("build", "truth", "lib", "libquillet.so")
 
 
 def arguments():
@@ -50,11 +47,10 @@ def main():
         raise SystemExit(f"truth/run: no such family: {', '.join(sorted(unknown))}")
 
     sys.stdout.reconfigure(encoding="utf-8")
-    library = Library(LIBRARY)
     report = Report()
     signal.signal(signal.SIGTERM, interrupted)
     if options.page:
-        return 0 if check_page(library, is_written=True) else 1
+        return 0 if check_page(is_written=True) else 1
     with servers.Servers(options.settings) as running:
         postgresql = sessions.PostgreSQL(running)
         if options.pairs:
@@ -73,11 +69,11 @@ def main():
     report.print_table()
     passed = report.print_failures(options)
     if not options.families and not options.update and options.settings == "default":
-        passed = check_page(library, is_written=False) and passed
+        passed = check_page(is_written=False) and passed
     return 0 if passed else 1
 
 
-def check_page(library, is_written):
+def check_page(is_written):
     """Makes docs/differences.md, writes it or compares it, and returns whether all is well."""
     made = page.Page(library)
     for settings in servers.SETTINGS:
