@@ -1,12 +1,13 @@
 """Tells whether two answers have the same rows: in any order, unless the statement orders them."""
 
+import itertools
 import re
 from collections import Counter, namedtuple
 
 from values import DIFFERS, OTHERWISE, SAME, Verdict, compare
 
-# Rows are tuples of texts; kinds, one for each column.
-Answer = namedtuple("Answer", "rows kinds")
+# Rows are tuples of texts; kinds and names, one for each column.
+Answer = namedtuple("Answer", "rows kinds names", defaults=[()])
 
 
 def compare_rows(ours, theirs, our_kinds, their_kinds):
@@ -22,11 +23,15 @@ def compare_rows(ours, theirs, our_kinds, their_kinds):
     return Verdict(OTHERWISE if how else SAME, how)
 
 
+ENOUGH_STRANGERS = 100
+
+
 class Comparison:
-    """The outcome for two answers, how they are written otherwise, and the first rows that differ."""
+    """The outcome for two answers, how they are written otherwise, and the rows that differ: the first two,
+    and pairs of which one may be None."""
 
     def __init__(self, ours, theirs, groups=None):
-        self.how, self.first = [], None
+        self.how, self.first, self.unlike = [], None, []
         self._ours, self._theirs = ours, theirs
         if groups is None:
             groups = [(0, max(len(ours.rows), len(theirs.rows)), ours.rows)]
@@ -37,35 +42,41 @@ class Comparison:
         else:
             for begin, end, candidates in groups:
                 self._match(candidates, theirs.rows[begin:end], ours.rows[begin:end])
-                if self.first:
+                if len(self.unlike) > ENOUGH_STRANGERS:
                     break
         self.outcome = DIFFERS if self.first else OTHERWISE if self.how else SAME
 
     def _match(self, candidates, rows, shown=None):
         """Takes a partner among the candidates for each row; the same one before one written otherwise."""
-        left = list(candidates)
+        common = Counter(candidates) & Counter(rows)
+        left = _without(candidates, common)
         strangers = []
-        for row in rows:
-            partner = row if row in left else next((c for c in left if self._fits(c, row)), None)
+        for row in _without(rows, common):
+            partner = next((c for c in left if self._fits(c, row)), None)
             if partner is None:
                 strangers.append(row)
+                if len(strangers) > ENOUGH_STRANGERS:
+                    break
             else:
                 left.remove(partner)
                 self._note(partner, row)
+        has_more = len(self._ours.rows) > len(self._theirs.rows)
         if strangers:
-            left = [row for row in left if row in (shown or candidates)] or left
+            wanted = set(shown or candidates)
+            left = [row for row in left if row in wanted] or left
             alike = [row for row in left if row[0] == strangers[0][0]] or left
-            self.first = (alike[0] if alike else "no row", strangers[0])
-        elif left and len(candidates) > len(rows) and len(self._ours.rows) != len(self._theirs.rows):
-            self.first = (left[0], "no row")
+            self.first = self.first or (alike[0] if alike else "no row", strangers[0])
+        elif left and has_more:
+            self.first = self.first or (left[0], "no row")
+        if strangers or has_more:
+            self.unlike += _pairs(left, strangers, has_more)
 
     def _fits(self, ours, theirs):
         verdict = compare_rows(ours, theirs, self._ours.kinds, self._theirs.kinds)
         return verdict.outcome != DIFFERS
 
-    def differing_columns(self):
-        """The places where the first rows are not alike."""
-        ours, theirs = self.first
+    def differing_columns(self, ours, theirs):
+        """The places where two rows are not alike."""
         verdicts = map(compare, ours, theirs, self._ours.kinds, self._theirs.kinds)
         return [i for i, verdict in enumerate(verdicts) if verdict.outcome == DIFFERS]
 
@@ -73,6 +84,30 @@ class Comparison:
         for how in compare_rows(ours, theirs, self._ours.kinds, self._theirs.kinds).how:
             if how not in self.how:
                 self.how.append(how)
+
+
+def _without(rows, counts):
+    """The rows but for so many of each."""
+    counts, kept = Counter(counts), []
+    for row in rows:
+        if counts[row]:
+            counts[row] -= 1
+        else:
+            kept.append(row)
+    return kept
+
+
+def _pairs(left, strangers, has_more):
+    """Each stranger beside a row that begins likewise, as far as there is one; then what is left."""
+    left, pairs, alone = list(left), [], []
+    for row in strangers:
+        partner = next((c for c in left if c[0] == row[0]), None)
+        if partner is None:
+            alone.append(row)
+        else:
+            left.remove(partner)
+            pairs.append((partner, row))
+    return pairs + list(itertools.zip_longest(left if has_more else left[: len(alone)], alone))
 
 
 _STRINGS = re.compile(r"'(?:\\'|[^'])*'|\"[^\"]*\"")

@@ -18,6 +18,7 @@ import psycopg2.extensions
 import pymysql
 
 POSTGRESQL = "/usr/lib/postgresql/15/bin"
+POSTGRESQL_USER, MARIADB_USER = "truth", "root"
 # Far from UTC, so that what reads a time in the session's zone shows; without summer time.
 POSTGRESQL_ZONE = "Etc/GMT-2"
 MARIADB_ZONE = "+02:00"
@@ -165,8 +166,8 @@ class Servers:
     def _start_postgresql(self):
         server = self._server("postgresql", ["postgres"], signal.SIGINT)
         data = os.path.join(server.folder, "data")
-        self._postgresql_socket = server.folder
-        server.run([f"{POSTGRESQL}/initdb", "--pgdata", data, "--username", "truth", "--auth=trust",
+        self.postgresql_socket = server.folder
+        server.run([f"{POSTGRESQL}/initdb", "--pgdata", data, "--username", POSTGRESQL_USER, "--auth=trust",
                     "--encoding=UTF8", "--locale=C.UTF-8", "--no-sync"])
         settings = {**POSTGRESQL_SETTINGS, "unix_socket_directories": server.folder}
         if server.user:
@@ -177,27 +178,27 @@ class Servers:
     def _start_mariadb(self):
         server = self._server("mariadb", ["mysql", "nobody"], signal.SIGTERM)
         data = os.path.join(server.folder, "data")
-        self._mariadb_socket = os.path.join(server.folder, "socket")
+        self.mariadb_socket = os.path.join(server.folder, "socket")
         server.run(["mariadb-install-db", "--no-defaults", f"--datadir={data}", "--skip-test-db",
                     "--auth-root-authentication-method=normal", "--skip-name-resolve"])
         os.chmod(server.folder, 0o711)
         mode, collation = SETTINGS[self._settings]
         server.serve(["mariadbd", "--no-defaults", f"--datadir={data}",
-                      f"--socket={self._mariadb_socket}", f"--collation-server={collation}",
+                      f"--socket={self.mariadb_socket}", f"--collation-server={collation}",
                       f"--pid-file={server.folder}/pid", *MARIADB_SETTINGS], self.mariadb)
 
-    def postgresql(self):
-        return psycopg2.connect(host=self._postgresql_socket, user="truth", dbname="postgres")
+    def postgresql(self, database="postgres"):
+        return psycopg2.connect(host=self.postgresql_socket, user=POSTGRESQL_USER, dbname=database)
 
     def mariadb(self, database=None):
         """A connection that hands values over as their texts."""
         mode, collation = SETTINGS[self._settings]
         return pymysql.connect(
-            unix_socket=self._mariadb_socket,
-            user="root",
+            unix_socket=self.mariadb_socket,
+            user=MARIADB_USER,
             database=database,
             charset="utf8mb4",
-            conv={},
+            conv=pymysql.converters.encoders,
             init_command=f"SET NAMES utf8mb4 COLLATE {collation}, "
             f"sql_mode = CONCAT(@@global.sql_mode, '{mode}')",
         )

@@ -50,10 +50,10 @@ class Trials:
         original = self.ask("postgresql", statement)
         groups = None
         if isinstance(original, Answer) and not is_volatile and is_ordered(statement):
-            groups = self._tie_groups(statement, original)
+            groups = groups_of(statement, original, self._postgresql)
         our_kinds = original.kinds if is_volatile and isinstance(original, Answer) else None
         if our_kinds:
-            original = _shapes(original, our_kinds)
+            original = shapes(original, our_kinds)
         results = {}
         for builder, translation in made.items():
             outcome, detail = self._judge(original, translation, builder, groups, our_kinds)
@@ -74,7 +74,7 @@ class Trials:
             return REFUSED, f"code {made.code}"
         answer = self.ask(builder, made.text)
         if our_kinds:
-            answer = _shapes(answer, our_kinds)
+            answer = shapes(answer, our_kinds)
         if isinstance(answer, Failure):
             if isinstance(original, Failure) and answer.is_of_values:
                 return SAME, "an error in both"
@@ -84,18 +84,20 @@ class Trials:
             return DIFFERS, f"{shortened(str(original))} but {first}"
         comparison = Comparison(original, answer, groups)
         if comparison.first:
-            return DIFFERS, _both(comparison)
+            return DIFFERS, both(comparison)
         return comparison.outcome, ", ".join(comparison.how) or None
 
-    def _tie_groups(self, statement, original):
-        try:
-            width = len(original.kinds)
-            return tie_groups(statement, width, lambda text: self._postgresql.ask(text).rows)
-        except Failure:
-            return [(i, i + 1, [row]) for i, row in enumerate(original.rows)]
+
+def groups_of(statement, original, postgresql):
+    """The groups of places of an ordered statement's rows, as tie_groups tells them."""
+    try:
+        return tie_groups(statement, len(original.kinds), lambda text: postgresql.ask(text).rows)
+    except Failure:
+        return [(i, i + 1, [row]) for i, row in enumerate(original.rows)]
 
 
-def _shapes(answer, our_kinds):
+def shapes(answer, our_kinds):
+    """What the values of an answer look like."""
     if isinstance(answer, Failure) or len(answer.kinds) != len(our_kinds):
         return answer
     return Answer([tuple(map(shape, row, our_kinds)) for row in answer.rows], ["text"] * len(our_kinds))
@@ -112,11 +114,11 @@ def sample(row):
     return shortened("(" + ", ".join("NULL" if v is None else f"'{v}'" for v in row) + ")")
 
 
-def _both(comparison):
+def both(comparison):
     """The two rows; of long ones only the first column and those that are not alike."""
     ours, theirs = comparison.first
     if isinstance(ours, tuple) and isinstance(theirs, tuple) and len(ours) == len(theirs) > 3:
-        keep = sorted({0, *comparison.differing_columns()})
+        keep = sorted({0, *comparison.differing_columns(ours, theirs)})
         ours = tuple(ours[i] for i in keep)
         theirs = tuple(theirs[i] for i in keep)
     return f"{sample(ours)} but {sample(theirs)}"

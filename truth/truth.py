@@ -52,11 +52,11 @@ def main():
     if options.page:
         return 0 if check_page(is_written=True) else 1
     with servers.Servers(options.settings) as running:
-        postgresql = sessions.PostgreSQL(running)
+        postgresql, mariadb = sessions.with_tables(running)
         if options.pairs:
             pairs.write(library, postgresql)
             return 0
-        trials = Trials(library, postgresql, sessions.MariaDB(running))
+        trials = Trials(library, postgresql, mariadb)
         for family in options.families or corpus.families():
             is_volatile = family == corpus.VOLATILE
             made = {text: trials.run(text, is_volatile) for text in corpus.statements(family)}
@@ -78,7 +78,7 @@ def check_page(is_written):
     made = page.Page(library)
     for settings in servers.SETTINGS:
         with servers.Servers(settings) as running:
-            made.gather(settings, Trials(library, sessions.PostgreSQL(running), sessions.MariaDB(running)))
+            made.gather(settings, Trials(library, *sessions.with_tables(running)))
     failures = made.failures()
     if is_written:
         page.write(made.text())

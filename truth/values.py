@@ -8,6 +8,7 @@ from decimal import Decimal, InvalidOperation
 # What a column holds; of PostgreSQL by the type's name, of MariaDB by the protocol's code.
 POSTGRESQL_KINDS = {
     16: "boolean",
+    17: "bytes",
     20: "integer", 21: "integer", 23: "integer",
     700: "real", 701: "double",
     1700: "numeric",
@@ -49,9 +50,16 @@ def compare(ours, theirs, our_kind, their_kind):
         return _compare_moments(ours, theirs)
     if our_kind == "interval":
         return _compare_intervals(ours, theirs)
+    if our_kind == "bytes" and text_of_bytes(bytes.fromhex(ours.removeprefix("\\x"))) == theirs:
+        return Verdict(OTHERWISE, "bytes")
     if our_kind == "char" and ours.rstrip(" ") == theirs.rstrip(" "):
         return Verdict(OTHERWISE, "trailing blanks of char")
     return _differs
+
+
+def text_of_bytes(value):
+    """A value of a binary type as a text; what is no text is shown as it is."""
+    return value.decode("utf-8", errors="backslashreplace")
 
 
 def _compare_booleans(ours, theirs):

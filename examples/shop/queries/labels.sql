@@ -1,0 +1,8 @@
+-- What the labels of the shelf say.
+select sku || ': ' || name as label, price
+  from item
+ where stock > 0
+ order by sku;
+select initcap(name) as title from item where sku = 'A-300';
+select name, stock / 12 as dozens from item where listed order by sku;
+select sku as key, name as value from item order by sku;
