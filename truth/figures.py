@@ -1,10 +1,10 @@
-"""The figures at the top of docs/differences.md: ours and sqlglot's outcomes on the corpus."""
+"""The figures at the top of docs/differences.md: ours and others' outcomes on the corpus."""
 
 import re
 from collections import Counter
 
 import servers
-from peer import NAME, Peer
+from peer import PEERS
 from trial import OUTCOMES, is_announced, is_right, is_wrong
 
 MEANINGS = {
@@ -15,29 +15,34 @@ MEANINGS = {
     "differs": "other rows",
 }
 SILENT = "rejected or differs, without a word"
-COLUMNS = [(whose, settings) for settings in servers.SETTINGS for whose in ("Quillet", NAME)]
+COLUMNS = [(whose, settings) for settings in servers.SETTINGS
+           for whose in ("Quillet", *(peer.NAME for peer in PEERS))]
 PATTERNS = {"ILIKE": r"\bilike\b", "`~*`": r"~\*"}
 
 
 class Figures:
     def __init__(self):
-        self._peer = Peer()
+        self._peers = [peer() for peer in PEERS]
         self._counts = {column: Counter() for column in COLUMNS}
         self._right = {settings: set() for settings in servers.SETTINGS}
         self._wrong = {settings: set() for settings in servers.SETTINGS}
 
     def add(self, settings, statement, is_volatile, trials):
         ours = trials.run(statement, is_volatile)["mysql"]
-        theirs = trials.judge(statement, {"mysql": self._peer.translate(statement)}, is_volatile)["mysql"]
-        for whose, result in (("Quillet", ours), (NAME, theirs)):
-            count = self._counts[whose, settings]
-            count[result.outcome] += 1
-            if is_wrong(result) and not is_announced(result):
-                count[SILENT] += 1
+        self._count("Quillet", settings, ours)
+        for peer in self._peers:
+            made = {"mysql": peer.translate(statement)}
+            self._count(peer.NAME, settings, trials.judge(statement, made, is_volatile)["mysql"])
         if is_right(ours):
             self._right[settings].add(statement)
         if is_wrong(ours):
             self._wrong[settings].add(statement)
+
+    def _count(self, whose, settings, result):
+        count = self._counts[whose, settings]
+        count[result.outcome] += 1
+        if is_wrong(result) and not is_announced(result):
+            count[SILENT] += 1
 
     def text(self):
         return "\n".join([self._table(), self._advice()])
@@ -48,8 +53,10 @@ class Figures:
             "## Figures",
             "",
             f"What became of the {total:,} statements of `truth/corpus` on MariaDB: as text of the builder `mysql`,",
-            f"and as {NAME} of Debian writes them from `postgres` to `mysql`; a warning that it logs counts as a",
-            "word. They are statements that Quillet reads, many of them made to show differences.",
+            f"and as {' and '.join(peer.NAME for peer in PEERS)} write them from PostgreSQL to MySQL; a warning that",
+            "sqlglot logs counts as a word, and polyglot is told to refuse what it knows MySQL to lack. Both write",
+            "for newer versions of MySQL, of which MariaDB has most, but not all. The statements are such as Quillet",
+            "reads, many of them made to show differences.",
             "",
             "| | " + " | ".join(f"{whose}, {settings} settings" for whose, settings in COLUMNS) + " |",
             "|---" + "|---:" * len(COLUMNS) + "|",

@@ -1,12 +1,16 @@
-"""What sqlglot of Debian's package makes of a statement, to compare with."""
+"""What others make of a statement, to compare with: sqlglot of Debian's package, and polyglot from npm."""
 
+import json
 import logging
+import os
+import subprocess
 
 import sqlglot
 
 from library import Diagnostic, Translation
 
-NAME = f"sqlglot {sqlglot.__version__}"
+NPM = os.path.join("build", "truth", "npm", "node_modules")
+REFUSED = Translation("error", None, [Diagnostic("refusal", "error")])
 
 
 class _Ear(logging.Handler):
@@ -20,7 +24,9 @@ class _Ear(logging.Handler):
         self.has_heard = True
 
 
-class Peer:
+class Sqlglot:
+    NAME = f"sqlglot {sqlglot.__version__}"
+
     def __init__(self):
         self._ear = _Ear()
         logger = logging.getLogger("sqlglot")
@@ -32,6 +38,30 @@ class Peer:
         try:
             text = sqlglot.transpile(statement, read="postgres", write="mysql")[0]
         except (sqlglot.errors.SqlglotError, RecursionError):
-            return Translation("error", None, [Diagnostic("refusal", "error")])
+            return REFUSED
         says = [Diagnostic("warning", "logged")] if self._ear.has_heard else []
         return Translation(0, text, says)
+
+
+def _version(package):
+    with open(os.path.join(NPM, package, "package.json"), encoding="utf-8") as file:
+        return json.load(file)["version"]
+
+
+class Polyglot:
+    NAME = f"polyglot {_version('@polyglot-sql/sdk')}"
+
+    def __init__(self):
+        self._node = subprocess.Popen(
+            ["node", "truth/polyglot.js"], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True,
+            encoding="utf-8", env={**os.environ, "NODE_PATH": os.path.abspath(NPM)},
+        )
+
+    def translate(self, statement):
+        self._node.stdin.write(json.dumps(statement) + "\n")
+        self._node.stdin.flush()
+        text = json.loads(self._node.stdout.readline())
+        return REFUSED if text is None else Translation(0, text, [])
+
+
+PEERS = (Sqlglot, Polyglot)
