@@ -14,6 +14,13 @@
 #include "quillet_rendering.h"
 #include "quillet_scanner.h"
 
+// What holds vectors is a constant where they can be, which older standard libraries do not know.
+#ifdef __cpp_lib_constexpr_vector
+#define CONSTINIT constinit
+#else
+#define CONSTINIT
+#endif
+
 // Owned by quillet.cpp: the registry, the last classic translation, the builders of classic
 // translations; what translations in any thread leave for the next one.
 quillet_builder_info *quillet_builders[4] = {};
@@ -32,7 +39,7 @@ node_main *root = nullptr;
 parse_data *quillet_query = nullptr;
 int quillet_comment_count = 0;
 quillet_value yy_quillet_lval = {};
-constinit quillet::tree_memory quillet::classic_tree_memory;
+CONSTINIT quillet::tree_memory quillet::classic_tree_memory;
 constinit quillet_scan _quillet_scan = [] {
     quillet_scan scan{};
     scan.tree = &quillet::classic_tree_memory;
@@ -49,5 +56,5 @@ int32_t mysql_error_code = 0;
 
 // Owned by the renderings: what one leaves to the next, in the classic calls; and a pointer to what
 // the translation under way in this thread has instead.
-constinit quillet::rendering_memory quillet::kept_rendering_memory;
+CONSTINIT quillet::rendering_memory quillet::kept_rendering_memory;
 constinit thread_local quillet::rendering_memory *quillet::own_rendering_memory = nullptr;

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 #include <cstdlib>
-#include <memory_resource>
+#include <memory>
 #include <new>
 #include <vector>
 
@@ -10,8 +10,26 @@
 
 namespace {
 
+constexpr std::size_t usual_depth = 128; // for which no memory is needed
+
+// Gives a vector that reserves the usual depth at first its own room for that.
+template <class Node> struct usual_room {
+    using value_type = Node;
+
+    Node *allocate(std::size_t count) {
+        return count == usual_depth ? room : std::allocator<Node>().allocate(count);
+    }
+    void deallocate(Node *freed, std::size_t count) {
+        if (freed != room)
+            std::allocator<Node>().deallocate(freed, count);
+    }
+    bool operator==(const usual_room &) const = default;
+
+    Node *room;
+};
+
 struct owned_node;
-using nodes = std::pmr::vector<owned_node>;
+using nodes = std::vector<owned_node, usual_room<owned_node>>;
 using walk = quillet::walk<owned_node, 6, nodes>;
 
 // A node to be freed, and what frees it: its texts and itself; its children go into the walk.
@@ -40,10 +58,8 @@ struct owned_node {
 void free_tree(owned_node tree) {
     if (!tree.node)
         return;
-    constexpr std::size_t usual_depth = 128; // for which no memory is needed
-    alignas(owned_node) std::byte usual_memory[usual_depth * sizeof(owned_node)];
-    std::pmr::monotonic_buffer_resource resource(usual_memory, sizeof usual_memory);
-    nodes memory(&resource);
+    alignas(owned_node) std::byte room[usual_depth * sizeof(owned_node)];
+    nodes memory(usual_room<owned_node>{reinterpret_cast<owned_node *>(room)});
     try {
         memory.reserve(usual_depth);
         walk left(memory);
