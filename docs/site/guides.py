@@ -21,6 +21,7 @@ GROUPS = {
     "Guides": ["README.md", "docs/*.md"],
     "Manual pages": ["docs/man/*.pod"],
     "Python": ["bindings/python/README.md", "bindings/python/src/quillet/__init__.py"],
+    "JavaScript": ["bindings/wasm/README.md"],
     "Quillet from inside": ["CONTRIBUTING.md", "lib/README.md", "truth/README.md"],
 }
 API = {
@@ -35,6 +36,7 @@ NAMES = {
     "README.md": "index",
     "bindings/python/README.md": "python",
     "bindings/python/src/quillet/__init__.py": "python-module",
+    "bindings/wasm/README.md": "javascript",
 }
 
 
