@@ -1,7 +1,9 @@
 // docs/mysql.md says what the code does: every row of the tables behind the builder stands in it.
+// So does docs/migrating.md of what is refused.
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <fstream>
 #include <regex>
 #include <set>
@@ -49,8 +51,8 @@ std::string default_type(const std::string &function) {
     return "no function";
 }
 
-std::string page() {
-    std::ifstream file(DOCS_DIRECTORY "/mysql.md");
+std::string page(const char *name = "mysql.md") {
+    std::ifstream file(std::string(DOCS_DIRECTORY "/") + name);
     std::ostringstream text;
     text << file.rdbuf();
     return text.str();
@@ -120,6 +122,27 @@ TEST(MysqlPage, HoldsEveryRefusal) {
 #define ERROR(name, code, text, hint)                                                              \
     if (code != 0)                                                                                 \
         expect_row(code, text);
+#include "quillet_mysql_errors.def"
+}
+
+// Each reason has a section, with its sentence and what to write instead.
+TEST(MigratingPage, HoldsEveryRefusal) {
+    const std::string text = page("migrating.md");
+    const auto expect_section = [&](std::string name, const char *sentence) {
+        for (char &c : name)
+            c = c == '_' ? '-' : static_cast<char>(std::tolower(c));
+        const std::string heading = "\n### refused-" + name + "\n\n";
+        const std::size_t begin = text.find(heading);
+        ASSERT_NE(begin, std::string::npos) << name;
+        const std::size_t end = text.find("\n##", begin + 1);
+        std::string section = text.substr(begin, end - begin);
+        std::erase(section, '\\');
+        EXPECT_NE(section.find(heading + sentence), std::string::npos) << section;
+        EXPECT_NE(section.find("```text\n"), std::string::npos) << section;
+    };
+#define ERROR(name, code, text, hint)                                                              \
+    if (code != 0)                                                                                 \
+        expect_section(#name, text);
 #include "quillet_mysql_errors.def"
 }
 

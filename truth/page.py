@@ -48,14 +48,14 @@ class Page:
         return self._sections.failures()
 
 
-def recorded():
+def read(name):
     try:
-        with open(FILE, encoding="utf-8") as file:
+        with open(name, encoding="utf-8") as file:
             return file.read()
     except FileNotFoundError:
         return ""
 
 
-def write(text):
-    with open(FILE, "w", encoding="utf-8") as file:
+def write(name, text):
+    with open(name, "w", encoding="utf-8") as file:
         file.write(text)

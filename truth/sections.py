@@ -22,13 +22,13 @@ def answer_text(answer, statement):
     return " ".join(rows) or "no row"
 
 
-def _all_rows(answers):
+def all_rows(answers):
     """The rows of some statements together, or the first failure."""
     failure = next((answer for answer in answers if isinstance(answer, Failure)), None)
     return failure or Answer([row for answer in answers for row in answer.rows], answers[0].kinds)
 
 
-def _are_same(ours, theirs):
+def are_same(ours, theirs):
     if isinstance(ours, Failure) or isinstance(theirs, Failure):
         return False
     return Comparison(ours, theirs).outcome != DIFFERS
@@ -93,11 +93,11 @@ class Sections:
             result = trials.run(statements[0])[builder]
             if not is_right(result):
                 self._fail(key, f"has a rewrite that is {result.outcome}: {told}: {result.detail}")
-        ours = _all_rows([trials.ask("postgresql", statement) for statement in statements])
-        theirs = _all_rows([trials.ask(builder, each.text) for each in made])
-        if not _are_same(ours, theirs):
+        ours = all_rows([trials.ask("postgresql", statement) for statement in statements])
+        theirs = all_rows([trials.ask(builder, each.text) for each in made])
+        if not are_same(ours, theirs):
             self._fail(key, f"has a rewrite with other rows: {told}")
-        if isinstance(original, Answer) and not _are_same(original, ours):
+        if isinstance(original, Answer) and not are_same(original, ours):
             self._fail(key, f"has a rewrite with other rows than its example: {told}")
 
     def _gather_settings(self, key, example, trials):
@@ -129,13 +129,13 @@ class Sections:
         key = notice.builder, notice.id
         title = notice.id if notice.builder == "mysql" else f"{notice.builder} {notice.id}"
         message = notice.message[0].upper() + notice.message[1:]
-        lines = [f"### {title}", "", f"**{notice.severity.capitalize()}.** {_plain(message)}."]
+        lines = [f"### {title}", "", f"**{notice.severity.capitalize()}.** {plain(message)}."]
         if notice.hint:
-            lines[-1] += f" Instead: {_plain(notice.hint)}."
+            lines[-1] += f" Instead: {plain(notice.hint)}."
         lines += ["", "```text", *self._bodies.get(key, ["no example"]), "```", ""]
         return "\n".join(lines)
 
 
-def _plain(text):
+def plain(text):
     """A text in which no character is a mark."""
     return "".join("\\" + c if c in "|*_<[`" else c for c in text)

@@ -8,6 +8,7 @@ import corpus
 import library
 import page
 import pairs
+import refusals
 import results
 import servers
 import sessions
@@ -32,7 +33,8 @@ def arguments():
     parser.add_argument(
         "--pairs", action="store_true", help="write truth/corpus/pairs.sql anew, and end"
     )
-    parser.add_argument("--page", action="store_true", help="write docs/differences.md, and end")
+    parser.add_argument("--page", action="store_true",
+                        help="write docs/differences.md and the end of docs/migrating.md, and end")
     return parser.parse_args()
 
 
@@ -50,7 +52,7 @@ def main():
     report = Report()
     signal.signal(signal.SIGTERM, interrupted)
     if options.page:
-        return 0 if check_page(is_written=True) else 1
+        return 0 if check_pages(is_written=True) else 1
     with servers.Servers(options.settings) as running:
         postgresql, mariadb = sessions.with_tables(running)
         if options.pairs:
@@ -69,23 +71,28 @@ def main():
     report.print_table()
     passed = report.print_failures(options)
     if not options.families and not options.update and options.settings == "default":
-        passed = check_page(is_written=False) and passed
+        passed = check_pages(is_written=False) and passed
     return 0 if passed else 1
 
 
-def check_page(is_written):
-    """Makes docs/differences.md, writes it or compares it, and returns whether all is well."""
-    made = page.Page(library)
+def check_pages(is_written):
+    """Makes docs/differences.md and the end of docs/migrating.md, writes or compares them, and returns
+    whether all is well."""
+    differences, guide = page.Page(library), refusals.Refusals(library)
     for settings in servers.SETTINGS:
         with servers.Servers(settings) as running:
-            made.gather(settings, Trials(library, *sessions.with_tables(running)))
-    failures = made.failures()
-    if is_written:
-        page.write(made.text())
-    elif made.text() != page.recorded():
-        failures = [*failures, f"{page.FILE} is not what --page writes"]
+            trials = Trials(library, *sessions.with_tables(running))
+            differences.gather(settings, trials)
+            if settings == "default":
+                guide.gather(trials)
+    failures = differences.failures() + guide.failures()
+    for name, text in ((page.FILE, differences.text()), (refusals.PAGE, guide.page(page.read(refusals.PAGE)))):
+        if is_written:
+            page.write(name, text)
+        elif text != page.read(name):
+            failures.append(f"{name} is not what --page writes")
     if failures:
-        print("\nFAILED: the page of differences:")
+        print("\nFAILED: the pages with examples:")
         print("\n".join(f"  {failure}" for failure in failures))
     return not failures
 
