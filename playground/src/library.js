@@ -1,0 +1,4 @@
+import { loadSync } from 'quillet';
+import binary from 'quillet/quillet.wasm';
+
+export const quillet = loadSync(binary);
