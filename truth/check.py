@@ -59,6 +59,8 @@ def check(options, running):
     if options.dump:
         writing.dump(options.dump, databases.tables, findings)
     failures, rest = writing.verdict(databases.tables, findings, options.strict)
+    if all(finding.outcome == COPIED for finding in findings):
+        failures.append("no query to compare")
     if failures:
         print("FAILED: " + ", ".join(failures))
     if rest or not failures:

@@ -4,7 +4,7 @@ import itertools
 import re
 from collections import Counter, namedtuple
 
-from values import DIFFERS, OTHERWISE, SAME, Verdict, compare
+from values import DIFFERS, OTHERWISE, SAME, Verdict, compare, rough
 
 # Rows are tuples of texts; kinds and names, one for each column.
 Answer = namedtuple("Answer", "rows kinds names", defaults=[()])
@@ -24,6 +24,7 @@ def compare_rows(ours, theirs, our_kinds, their_kinds):
 
 
 ENOUGH_STRANGERS = 100
+FEW_ROWS = 100
 
 
 class Comparison:
@@ -49,9 +50,12 @@ class Comparison:
     def _match(self, candidates, rows, shown=None):
         """Takes a partner among the candidates for each row; the same one before one written otherwise."""
         common = Counter(candidates) & Counter(rows)
-        left = _without(candidates, common)
+        left, others = _without(candidates, common), _without(rows, common)
+        if len(others) > FEW_ROWS:  # each finds its partner among the first ones then
+            left.sort(key=lambda row: _rough(row, self._ours.kinds))
+            others.sort(key=lambda row: _rough(row, self._theirs.kinds))
         strangers = []
-        for row in _without(rows, common):
+        for row in others:
             partner = next((c for c in left if self._fits(c, row)), None)
             if partner is None:
                 strangers.append(row)
@@ -84,6 +88,11 @@ class Comparison:
         for how in compare_rows(ours, theirs, self._ours.kinds, self._theirs.kinds).how:
             if how not in self.how:
                 self.how.append(how)
+
+
+def _rough(row, kinds):
+    """A key by which the same values have about the same place, however they are written."""
+    return [rough(value, kind) for value, kind in zip(row, kinds)]
 
 
 def _without(rows, counts):

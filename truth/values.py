@@ -57,6 +57,17 @@ def compare(ours, theirs, our_kind, their_kind):
     return _differs
 
 
+def rough(value, kind):
+    """A value to sort by: a number before any text; True is 1."""
+    if value is None:
+        return 0, 0.0, ""
+    if kind in NUMBERS:
+        return 0, float(value), ""
+    if value.lower() in ("t", "f", "true", "false"):
+        return 0, float(value[0] in "tT"), ""
+    return 1, 0.0, value
+
+
 def text_of_bytes(value):
     """A value of a binary type as a text; what is no text is shown as it is."""
     return value.decode("utf-8", errors="backslashreplace")

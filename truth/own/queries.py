@@ -3,6 +3,7 @@
 import json
 import os
 import subprocess
+import sys
 from collections import namedtuple
 from decimal import Decimal
 
@@ -16,7 +17,7 @@ Query = namedtuple("Query", "file line column statement text code diagnostics pa
 
 
 def place(query):
-    return f"{query.file}:{query.line}"
+    return f"{query.file}:{query.line}:{query.column}"
 
 
 def is_copied(query):
@@ -29,10 +30,10 @@ def announcements(query):
             if said["severity"] in ("note", "warning") and said["id"] not in OF_SCRIPTS]
 
 
-def _lines(program, builder, options, files):
-    # With values in them, both drivers write placeholders as %s.
+def _lines(program, builder, options, files, given):
+    # Both drivers put values in place of %s.
     command = [program, "--format", "json", "--to", builder, "--placeholders-out", "format", *options, "--"]
-    made = subprocess.run(command + files, capture_output=True, check=False)
+    made = subprocess.run(command + files, input=given, capture_output=True, check=False)
     if made.returncode not in (0, 1):
         raise SystemExit(made.stderr.decode(errors="replace").rstrip())
     return [json.loads(line) for line in made.stdout.splitlines()]
@@ -40,8 +41,9 @@ def _lines(program, builder, options, files):
 
 def queries(program, files, options=()):
     """The statements of the files, with their texts for MySQL."""
-    translated = _lines(program, "mysql", options, files)
-    canonical = _lines(program, "postgresql", options, files)
+    given = sys.stdin.buffer.read() if "-" in files else b""
+    translated = _lines(program, "mysql", options, files, given)
+    canonical = _lines(program, "postgresql", options, files, given)
     return [
         Query(ours["file"], ours["line"], ours["column"], ours["statement"], ours["text"], ours["code"],
               ours["diagnostics"], ours["parameters"], theirs["text"], theirs["parameters"])
@@ -52,7 +54,7 @@ def queries(program, files, options=()):
 class Values:
     """What placeholders stand for: an object of JSON. A name has the value of each placeholder of this
     name; the place of a statement, such as "orders.sql:12", an array for its numbered placeholders or an
-    object for its named ones."""
+    object for its named ones. The place may have the column, too."""
 
     def __init__(self, file=None):
         self._given = {}
@@ -64,8 +66,10 @@ class Values:
         try:
             with open(file, encoding="utf-8") as opened:
                 given = json.load(opened, parse_float=Decimal)
-        except (OSError, ValueError) as error:
-            raise SystemExit(f"truth/check: {file}: {error}") from None
+        except OSError as error:
+            raise SystemExit(f"truth/check: {file}: {error.strerror}") from None
+        except ValueError as error:
+            raise SystemExit(f"truth/check: {file} is no JSON: {error}") from None
         if not isinstance(given, dict):
             raise SystemExit(f"truth/check: {file} holds no object")
         return given
@@ -76,7 +80,8 @@ class Values:
 
     def _value(self, query, parameter):
         short = f"{os.path.basename(query.file)}:{query.line}"
-        own = self._given.get(place(query), self._given.get(short, {}))
+        keys = [place(query), f"{query.file}:{query.line}", f"{short}:{query.column}", short]
+        own = next((self._given[key] for key in keys if key in self._given), {})
         try:
             value = own[parameter - 1] if isinstance(parameter, int) else own[parameter]
         except (LookupError, TypeError):

@@ -1,7 +1,9 @@
 """Checks of a user's own tables and queries: what becomes of each, and the status."""
 
+import io
 import json
 import pathlib
+import time
 
 import pytest
 
@@ -155,6 +157,16 @@ def test_many_rows(run_texts, monkeypatch):
     assert "unchecked: more than 2999 rows" in checked.text
 
 
+def test_many_rows_in_another_order_are_written_otherwise(run_texts):
+    schema = "create table item (name varchar(32) {}, size integer, ok boolean);"
+    rows = "insert into item select md5(n::text), n, n % 2 = 0 from generate_series(1, 9000) as n;"
+    begin = time.monotonic()
+    checked = run_texts(schema.format("primary key") + rows, schema.format("primary key"),
+                        "select size / 2.0, ok from item; select name, size / 2 from item;")
+    assert checked.outcomes == ["otherwise", "differs"]
+    assert time.monotonic() - begin < 60
+
+
 def test_a_statement_may_not_take_for_ever(run_texts):
     checked = run_texts(ITEM + ROWS, ITEM, "select pg_sleep(30) from item;", "--seconds", "1")
     assert (checked.status, checked.outcomes) == (1, ["unchecked"])
@@ -186,6 +198,29 @@ def test_a_placeholder_without_a_value_is_told(run_texts, tmp_path):
     assert "the value of its placeholder size is neither a number nor a string" in checked.text
     assert 'no value for its placeholder 2: write "statements.sql:2": [...] in the file' in checked.text
     assert 'no value for its placeholder id: write "statements.sql:3": {"id": ...} in the file' in checked.text
+
+
+def test_values_by_the_column_too(run_texts, tmp_path):
+    given = tmp_path / "values.json"
+    given.write_text('{"statements.sql:1": [1], "statements.sql:1:37": [2]}')
+    checked = run_texts(ITEM + ROWS, ITEM, "select name from item where id = ?; select name from item where id = ?",
+                        "--placeholders", "auto", "--values", given, "--all")
+    assert checked.outcomes == ["same", "same"]
+    assert "statements.sql:1:37: same" in checked.text
+
+
+def test_nothing_to_compare_fails(run_texts):
+    assert run_texts(ITEM, ITEM, "").status == 1
+    assert run_texts(ITEM, ITEM, "begin; commit;").status == 1
+
+
+def test_queries_of_standard_input(run, tmp_path, monkeypatch):
+    (tmp_path / "schema.sql").write_text(ITEM)
+    monkeypatch.setattr("sys.stdin", io.TextIOWrapper(io.BytesIO(b"select id from item; select ;")))
+    checked = run("--schema", tmp_path / "schema.sql", "--mysql-schema", tmp_path / "schema.sql",
+                  "--statements", "-")
+    assert checked.outcomes == ["same", "not read"]
+    assert "<stdin>:1:22: not read" in checked.text
 
 
 def test_without_the_option_a_placeholder_is_not_read(run_texts):
