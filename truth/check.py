@@ -21,7 +21,7 @@ def arguments(given):
         description="Runs queries on a PostgreSQL and their translations on a MariaDB, both started for this "
         "and stopped at the end, and shows where their rows differ.",
         epilog="Status: 0, or 1 if a text is rejected or gives other rows and no warning or note says so, "
-        "or if a query or a table could not be compared; 2 for what cannot be used.",
+        "if a table has other rows, or if a query could not be compared; 2 for what cannot be used.",
     )
     parser.add_argument("--schema", metavar="FILE", nargs="+", required=True,
                         help="tables and rows for PostgreSQL, such as pg_dump writes")

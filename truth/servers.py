@@ -101,7 +101,8 @@ class _Server:
             if process.wait() != 0:
                 self.fail(f"{command[0]} failed")
         except BaseException:
-            process.kill()
+            with contextlib.suppress(ProcessLookupError):
+                os.killpg(process.pid, signal.SIGKILL)  # with the processes that a script has started
             process.wait()
             raise
 

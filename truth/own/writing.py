@@ -47,7 +47,8 @@ def _write_diagnostics(query):
         is_reason = said in announcements(query) or said["severity"] in ("refusal", "error")
         if is_reason and said["id"] not in told:
             told.add(said["id"])
-            print(f"{INDENT}{said['line']}:{said['column']}: {said['severity']}: {said['message']} [{said['id']}]")
+            where = f"{said['line']}:{said['column']}"
+            print(f"{INDENT}{where}: {said['severity']}: {said['message']} [{said['id']}]")
             if said["hint"]:
                 print(f"{INDENT}hint: {said['hint']}")
 

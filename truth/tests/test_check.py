@@ -115,7 +115,7 @@ def test_a_change_stays_for_nobody(run_texts):
 
 
 def test_changed_tables_may_have_their_columns_in_another_order(run_texts):
-    checked = run_texts("create table \"My Item\" (a integer, b integer); insert into \"My Item\" values (1, 2);",
+    checked = run_texts('create table "My Item" (a integer, b integer); insert into "My Item" values (1, 2);',
                         "create table `My Item` (b integer, a integer);",
                         'update "My Item" set a = 5 where b = 2;')
     assert (checked.status, checked.outcomes) == (0, ["same"])
@@ -203,7 +203,8 @@ def test_a_placeholder_without_a_value_is_told(run_texts, tmp_path):
 def test_values_by_the_column_too(run_texts, tmp_path):
     given = tmp_path / "values.json"
     given.write_text('{"statements.sql:1": [1], "statements.sql:1:37": [2]}')
-    checked = run_texts(ITEM + ROWS, ITEM, "select name from item where id = ?; select name from item where id = ?",
+    query = "select name from item where id = ?; select name from item where id = ?"
+    checked = run_texts(ITEM + ROWS, ITEM, query,
                         "--placeholders", "auto", "--values", given, "--all")
     assert checked.outcomes == ["same", "same"]
     assert "statements.sql:1:37: same" in checked.text
