@@ -106,6 +106,16 @@ void rendering_memory::release() {
     groups = {};
 }
 
+build_result *render_alone(builder *self, void *given,
+                           outcome (*render)(rendering &alone, void *given)) {
+    return if_there_is_memory([=] {
+        rendering alone(self);
+        if (alone.is_exhausted())
+            return alone.finish(refused_part);
+        return alone.finish(render(alone, given));
+    });
+}
+
 build_result *rendering::finish(outcome result) {
     if (!result.record)
         return nullptr;

@@ -381,14 +381,16 @@ inline builder *made_or_lacking(builder *made) {
 // Returns a new record, never NULL.
 std::unique_ptr<build_result, freed> new_result(std::int32_t status);
 
-// The body of a public operation: a rendering of one node by what is given.
+// The body of all public operations: a rendering of its own, in which what is given is rendered.
+build_result *render_alone(builder *self, void *given,
+                           outcome (*render)(rendering &alone, void *given));
+
+// A public operation that renders a node.
 template <class Node, class Render>
 build_result *render_alone(Render render, builder *self, Node *node, void *data) {
-    return if_there_is_memory([&] {
-        rendering alone(self);
-        if (alone.is_exhausted())
-            return alone.finish(refused_part);
-        return alone.finish(render(alone, node, data));
+    auto given = [=](rendering &alone) { return render(alone, node, data); };
+    return render_alone(self, &given, [](rendering &alone, void *own) {
+        return (*static_cast<decltype(given) *>(own))(alone);
     });
 }
 

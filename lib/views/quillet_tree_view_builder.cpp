@@ -128,6 +128,10 @@ build_result *view(builder *self, node_kind kind, const void *node, void *data) 
     return result.release();
 }
 
+build_result *view_if_there_is_memory(builder *self, node_kind kind, const void *node, void *data) {
+    return if_there_is_memory([=] { return view(self, kind, node, data); });
+}
+
 } // namespace
 
 char *quillet_print(int indentation, const char *label, int number) {
@@ -147,7 +151,7 @@ char *quillet_print(int indentation, const char *label, int number) {
 // quillet_<kind>_tree_view for every kind.
 #define NODE(kind)                                                                                 \
     build_result *quillet_##kind##_tree_view(builder *self, node_##kind *node, void *data) {       \
-        return if_there_is_memory([=] { return view(self, kind_##kind, node, data); });            \
+        return view_if_there_is_memory(self, kind_##kind, node, data);                             \
     }
 #include "quillet_nodes.def"
 

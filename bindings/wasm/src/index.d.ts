@@ -53,6 +53,32 @@ export interface Translation {
     readonly diagnostics: readonly Diagnostic[];
 }
 
+/** A node of a parse tree. A tree may be deep: walk it with a loop rather than with recursion. */
+export interface TreeNode {
+    /** `select_item`, `expression`: the kinds of the builder `tree`. */
+    readonly kind: string;
+    /** What tells it from others of its kind: a name or constant as written, an operator, a type. */
+    readonly label: string | null;
+    /** The type that has been inferred: `INT8`. */
+    readonly type: string | null;
+    /** The index in the string where its text begins. */
+    readonly start: number;
+    /** The index after its text. */
+    readonly end: number;
+    /** In the order of their places; of a list all its items. */
+    readonly children: readonly TreeNode[];
+}
+
+/** What the library sees in a statement. */
+export interface Inspection {
+    /** 0, or why types are missing, or the tree; the same as of a translation to `type_view`. */
+    readonly code: 0 | -2 | -3;
+    /** null if the statement cannot be parsed. */
+    readonly root: TreeNode | null;
+    /** What is wrong with the statement. */
+    readonly diagnostics: readonly Diagnostic[];
+}
+
 /** The library, ready to be called. */
 export interface Quillet {
     /**
@@ -60,6 +86,8 @@ export interface Quillet {
      * has half of a surrogate pair, and a RangeError for an option that there is not.
      */
     readonly translate: (this: void, sql: string, options?: Options) => Translation;
+    /** Parses one statement, for a tool that shows its tree. Throws as a translation does. */
+    readonly inspect: (this: void, sql: string) => Inspection;
     /** The names of all builders. */
     readonly builders: readonly BuilderName[];
     /** The version of the library: `1.2.3`. */

@@ -4,6 +4,8 @@
 const TRANSLATION = { code: 0, text: 4, textLength: 8, diagnosticCount: 12, diagnostics: 16 };
 const DIAGNOSTIC = { severity: 0, code: 4, id: 8, message: 12, hint: 16, offset: 20, length: 24, line: 28, column: 32 };
 const DIAGNOSTIC_SIZE = 36;
+const NODE = { kind: 0, label: 4, type: 8, begin: 12, end: 16, parent: 20 };
+const NODE_SIZE = 24;
 
 const SEVERITIES = ['note', 'warning', 'refusal', 'error'];
 
@@ -118,6 +120,7 @@ export function createQuillet(module) {
         return id;
     };
     const mysql = builderOf('mysql');
+    const typeView = builderOf('type_view');
 
     // Writes a statement into the memory: the number of its bytes, -1 without memory.
     const write = (sql) => {
@@ -197,6 +200,34 @@ export function createQuillet(module) {
         };
     };
 
+    // The tree of an inspection, whose nodes stand before those below them.
+    const treeOf = (made, isAscii) => {
+        const nodes = new Array(wasm.inspection_count(made));
+        const parents = new Array(nodes.length);
+        let word = wasm.inspection_nodes(made) >> 2;
+        for (let i = 0; i < nodes.length; ++i, word += NODE_SIZE >> 2) {
+            parents[i] = words[word + (NODE.parent >> 2)];
+            nodes[i] = {
+                kind: knownTextAt(words[word + (NODE.kind >> 2)]),
+                label: knownTextAt(words[word + (NODE.label >> 2)]),
+                type: knownTextAt(words[word + (NODE.type >> 2)]),
+                start: words[word + (NODE.begin >> 2)],
+                end: words[word + (NODE.end >> 2)],
+                children: [],
+            };
+        }
+        for (let i = 1; i < nodes.length; ++i)
+            nodes[parents[i]].children.push(nodes[i]);
+        if (!isAscii) {
+            const indices = indicesOf(nodes.flatMap(({ start, end }) => [start, end]));
+            for (const node of nodes) {
+                node.start = indices.get(node.start);
+                node.end = indices.get(node.end);
+            }
+        }
+        return nodes.length === 0 ? null : nodes[0];
+    };
+
     // A translation that has failed for a reason that the library could not see.
     const failed = (reason, sql) => {
         release();
@@ -206,9 +237,36 @@ export function createQuillet(module) {
         return translation;
     };
 
-    const translate = (sql, options) => {
+    // Writes a statement into the memory and lets work be done there on its bytes. The result is
+    // what the work returns, a failed translation instead of null.
+    const run = (sql, work) => {
         if (typeof sql !== 'string')
             throw new TypeError(`sql is no string: ${typeof sql}`);
+        if (wasm === null)
+            start();
+        let result;
+        try {
+            const length = write(sql);
+            const isAscii = length === sql.length;
+            if (!isAscii && length >= 0)
+                checkForSurrogates(sql);
+            result = length < 0 ? null : work(length, isAscii);
+        } catch (error) {
+            if (error instanceof TypeError)
+                throw error;
+            release(); // as its calls have not come to their end
+            if (!isStackOverflow(error))
+                throw error;
+            return failed('too_deep', sql);
+        }
+        if (result === null)
+            return failed('out_of_memory', sql);
+        if (bytes.length > KEPT_MEMORY)
+            release();
+        return result;
+    };
+
+    const translate = (sql, options) => {
         let builder = mysql;
         let least = 0;
         let textLimit = 0;
@@ -223,30 +281,26 @@ export function createQuillet(module) {
             if (options.treeLimit !== undefined)
                 treeLimit = limitOf('treeLimit', options.treeLimit);
         }
-
-        if (wasm === null)
-            start();
-        let translation;
-        try {
-            const length = write(sql);
-            if (length < 0)
-                return failed('out_of_memory', sql);
-            const isAscii = length === sql.length;
-            if (!isAscii)
-                checkForSurrogates(sql);
+        return run(sql, (length, isAscii) => {
             const record = wasm.translate(room, length, builder, least, textLimit, treeLimit);
-            translation = translationOf(record, isAscii);
+            const translation = translationOf(record, isAscii);
             wasm.translation_free(record);
-        } catch (error) {
-            release();
-            if (!isStackOverflow(error))
-                throw error;
-            return failed('too_deep', sql);
-        }
-        if (bytes.length > KEPT_MEMORY)
-            release();
-        return translation;
+            return translation;
+        });
     };
 
-    return Object.freeze({ translate, builders, version, releaseMemory: release });
+    const inspect = (sql) => {
+        const { code, root = null, diagnostics } = run(sql, (length, isAscii) => {
+            const made = wasm.inspect(room, length, typeView);
+            if (made === 0)
+                return null;
+            const { code, diagnostics } = translationOf(wasm.inspection_translation(made), isAscii);
+            const root = treeOf(made, isAscii);
+            wasm.inspection_free(made);
+            return { code, root, diagnostics };
+        });
+        return { code, root, diagnostics };
+    };
+
+    return Object.freeze({ translate, inspect, builders, version, releaseMemory: release });
 }

@@ -3,7 +3,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <new>
 
+#include "inspection.h"
 #include "quillet.h"
 #include "quillet_findings.h"
 #include "quillet_own_builders.h"
@@ -28,6 +30,13 @@ static_assert(offsetof(quillet_diagnostic, length) == 24);
 static_assert(offsetof(quillet_diagnostic, line) == 28);
 static_assert(offsetof(quillet_diagnostic, column) == 32);
 static_assert(sizeof(quillet_diagnostic) == 36);
+static_assert(offsetof(inspected_node, kind) == 0);
+static_assert(offsetof(inspected_node, label) == 4);
+static_assert(offsetof(inspected_node, type) == 8);
+static_assert(offsetof(inspected_node, begin) == 12);
+static_assert(offsetof(inspected_node, end) == 16);
+static_assert(offsetof(inspected_node, parent) == 20);
+static_assert(sizeof(inspected_node) == 24);
 
 // Returns room for a statement of so many bytes, NULL without memory. Its contents are lost.
 EXPORT(room_for) char *room_for(std::size_t size) {
@@ -52,6 +61,28 @@ const quillet_translation *translate(const char *statement, std::size_t length, 
 EXPORT(translation_free) void translation_free(quillet_translation *translation) {
     quillet_translation_free(translation);
 }
+
+// Returns a new inspection, which inspection_free frees; NULL without memory.
+EXPORT(inspect)
+const inspection *inspect(const char *statement, std::size_t length, int builder_id) {
+    try {
+        return new inspection({statement, length}, builder_id);
+    } catch (const std::bad_alloc &) {
+        return nullptr;
+    }
+}
+
+EXPORT(inspection_translation)
+const quillet_translation *inspection_translation(const inspection *made) {
+    return made->translation();
+}
+EXPORT(inspection_nodes) const inspected_node *inspection_nodes(const inspection *made) {
+    return made->nodes().data();
+}
+EXPORT(inspection_count) std::size_t inspection_count(const inspection *made) {
+    return made->nodes().size();
+}
+EXPORT(inspection_free) void inspection_free(const inspection *made) { delete made; }
 
 // The translations of statements that WebAssembly itself ends.
 

@@ -1,7 +1,7 @@
 // What the declarations allow, and what they do not.
 
 import { load, loadSync } from 'quillet';
-import type { BuilderName, Diagnostic, Options, Quillet, Severity, Translation } from 'quillet';
+import type { BuilderName, Diagnostic, Options, Quillet, Severity, Translation, TreeNode } from 'quillet';
 
 const quillet: Quillet = await load();
 const { translate } = quillet; // which needs no object
@@ -26,3 +26,7 @@ translate('select 1', { to: 'oracle' });
 translate(1);
 // @ts-expect-error: there is no such code
 if (made.code === -1) console.log(missing);
+
+const roots: (TreeNode | null)[] = [quillet.inspect('select 1').root];
+const kinds: string[] = roots.flatMap((root) => root?.children.map(({ kind, label }) => kind + (label ?? '')) ?? []);
+console.log(kinds);
