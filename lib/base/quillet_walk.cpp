@@ -2,8 +2,12 @@
 
 #include <algorithm>
 
+#ifdef __EMSCRIPTEN__
+#include <emscripten/stack.h>
+#else
 #include <pthread.h>
 #include <sys/resource.h>
+#endif
 
 #include "quillet_limits.h"
 
@@ -16,6 +20,13 @@ struct stack {
     const char *end = nullptr;
 };
 
+#ifdef __EMSCRIPTEN__
+// What WebAssembly's own frames take besides is its host's to bound.
+stack stack_of_this_thread(const void *) {
+    return {reinterpret_cast<const char *>(emscripten_stack_get_end()),
+            reinterpret_cast<const char *>(emscripten_stack_get_base())};
+}
+#else
 // What may be left of the process's usual stack at a frame near its beginning.
 stack usual_stack(const char *frame) {
     rlimit limit{};
@@ -40,6 +51,7 @@ stack stack_of_this_thread(const void *frame) {
     const char *end = static_cast<const char *>(lowest) + size;
     return {end - std::min<std::size_t>(size - guard, QUILLET_STACK_SIZE_MAXIMUM), end};
 }
+#endif
 
 const char *floor_of(stack own) {
     const auto size = static_cast<std::size_t>(own.end - own.lowest);

@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <new>
 
+#include <emscripten/stack.h>
+
 #include "inspection.h"
 #include "quillet.h"
 #include "quillet_findings.h"
@@ -37,6 +39,9 @@ static_assert(offsetof(inspected_node, begin) == 12);
 static_assert(offsetof(inspected_node, end) == 16);
 static_assert(offsetof(inspected_node, parent) == 20);
 static_assert(sizeof(inspected_node) == 24);
+
+// Lets the library know how far its stack goes.
+[[gnu::constructor]] static void begin() { emscripten_stack_init(); }
 
 // Returns room for a statement of so many bytes, NULL without memory. Its contents are lost.
 EXPORT(room_for) char *room_for(std::size_t size) {
