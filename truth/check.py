@@ -46,15 +46,15 @@ def check(options, running):
     values = Values(options.values)
     asked = queries(os.environ["QUILLET_SCRIPT"], options.statements,
                     ["--placeholders", options.placeholders] if options.placeholders else [])
-    databases = Databases(running, options.schema, options.mysql_schema, options.seconds)
-    checks = Checks(databases, values)
-    writing.write_tables(databases.tables)
     findings = []
-    for query in asked:
-        finding = checks.run(query)
-        findings.append(finding)
-        if options.all or not (is_right(finding) or finding.outcome == COPIED):
-            writing.write_finding(finding, options.show)
+    with Databases(running, options.schema, options.mysql_schema, options.seconds) as databases:
+        checks = Checks(databases, values)
+        writing.write_tables(databases.tables)
+        for query in asked:
+            finding = checks.run(query)
+            findings.append(finding)
+            if options.all or not (is_right(finding) or finding.outcome == COPIED):
+                writing.write_finding(finding, options.show)
     writing.write_summary(findings)
     if options.dump:
         writing.dump(options.dump, databases.tables, findings)

@@ -64,6 +64,9 @@ class _Session:
         finally:
             self._connection.rollback()
 
+    def close(self):
+        self._connection.close()
+
     def _contents(self, table):
         return "SELECT * FROM " + table
 

@@ -162,7 +162,7 @@ class Databases:
     def __init__(self, servers, schemas, mysql_schemas, seconds):
         self._servers = servers
         self._name = f"check{next(_numbers)}"
-        self._create()
+        self._on_both(f"CREATE DATABASE {self._name}")
         for file in schemas:
             self._load_postgresql(file)
         for file in mysql_schemas:
@@ -175,15 +175,23 @@ class Databases:
         self.tables = [self._fill(name) for name in self.postgresql.tables()]
         self._limit(seconds)
 
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.postgresql.close()
+        self.mariadb.close()
+        self._on_both(f"DROP DATABASE {self._name}")
+
     def _limit(self, seconds):
         self.postgresql.settle(f"SET statement_timeout = '{seconds}s'")
         self.mariadb.all_rows(f"SET max_statement_time = {seconds}")
 
-    def _create(self):
+    def _on_both(self, statement):
         for connection in (self._servers.postgresql(), self._servers.mariadb()):
             connection.autocommit = True  # as PostgreSQL makes no database within a transaction
             with connection.cursor() as cursor:
-                cursor.execute(f"CREATE DATABASE {self._name}")
+                cursor.execute(statement)
             connection.close()
 
     def _load_postgresql(self, file):
