@@ -6,6 +6,7 @@
 //   once FILE           translates the one statement, prints microseconds and the peak memory in
 //   KiB
 //
+// The microseconds are those that the thread has on the processor.
 // The exit status is 1 if a statement that is to be measured is refused, 2 for wrong arguments.
 #ifndef QUILLET_BENCH_CONTENDER_H
 #define QUILLET_BENCH_CONTENDER_H
