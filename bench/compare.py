@@ -7,7 +7,9 @@ import sys
 import compare_growth
 import compare_machine
 import compare_page
+import compare_readme
 import compare_script
+import compare_sizes
 import compare_startup
 import compare_statements
 
@@ -17,10 +19,12 @@ STACK = 8 << 20
 def arguments():
     parser = argparse.ArgumentParser(prog="bench/compare")
     parser.add_argument("--rounds", type=int, default=9, help="of every contender (%(default)s)")
-    parser.add_argument("--seconds", type=float, default=0.5, help="a round (%(default)s)")
+    parser.add_argument("--seconds", type=float, default=0.3, help="a round (%(default)s)")
     parser.add_argument("--plot", action="store_true", help=f"write {compare_page.PLOT}")
     parser.add_argument(
-        "--update", action="store_true", help=f"write the tables into {compare_page.PAGE}, and plot"
+        "--update",
+        action="store_true",
+        help=f"write into {compare_page.PAGE} and {compare_readme.PAGE}, and plot",
     )
     return parser.parse_args()
 
@@ -32,15 +36,24 @@ def main():
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
 
     machine = compare_machine.section()
-    statements = compare_statements.section(options.rounds, options.seconds)
+    measured = [
+        compare_statements.measure(corpus, options.rounds, options.seconds)
+        for corpus in compare_statements.CORPORA
+    ]
+    statements = [
+        compare_statements.section(each, options.rounds, options.seconds) for each in measured
+    ]
     scripts = compare_script.section(options.rounds)
     startup = compare_startup.section()
-    cells = compare_growth.measure()
-    text = "\n".join([machine, statements, scripts, startup, compare_growth.section(cells)])
+    sizes = compare_sizes.section()
+    cells = compare_growth.measure(compare_growth.NATIVE)
+    growth = compare_growth.section(cells)
+    text = "\n".join([machine, *statements, scripts, startup, sizes, growth])
 
     print(text, end="")
     if options.update:
-        compare_page.update(text)
+        compare_page.update(compare_page.PAGE, text)
+        compare_page.update(compare_readme.PAGE, compare_readme.section(measured[0].medians()))
     if options.update or options.plot:
         compare_page.plot(cells)
 

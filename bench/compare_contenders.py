@@ -5,19 +5,51 @@ import signal
 import subprocess
 import tempfile
 from pathlib import Path
+from typing import NamedTuple
 
 BUILD = Path("build/compare")
+OPTIMISED_BUILD = Path("build/compare-optimized")
+NPM = BUILD / "npm"
 TIMEOUT = 60
-SQLGLOT = ["/usr/bin/python3", "-B", "bench/contenders/sqlglot_contender.py"]
+
+
+class Contender(NamedTuple):
+    runs: str  # where it runs
+    words: list  # the command
+
+
+def native(program, build=BUILD):
+    return Contender("native", [build / "bench" / program])
+
+
+def sqlglot(dialect):
+    program = "bench/contenders/sqlglot_contender.py"
+    return Contender("Python", ["/usr/bin/python3", "-B", program, dialect])
+
+
+def node(package):
+    return Contender("Node", ["node", "bench/contenders/node_contender.js", package])
+
 
 CONTENDERS = {
-    "Quillet to PostgreSQL": [BUILD / "bench/quillet_to_postgresql"],
-    "Quillet to MySQL": [BUILD / "bench/quillet_to_mysql"],
-    "libpg_query, raw parse": [BUILD / "bench/pg_query_parse"],
-    "libpg_query, parse and deparse": [BUILD / "bench/pg_query_deparse"],
-    "sqlglot to PostgreSQL": [*SQLGLOT, "postgres"],
-    "sqlglot to MySQL": [*SQLGLOT, "mysql"],
+    "Quillet to PostgreSQL": native("quillet_to_postgresql"),
+    "Quillet to MySQL": native("quillet_to_mysql"),
+    "Quillet to PostgreSQL, optimised build": native("quillet_to_postgresql", OPTIMISED_BUILD),
+    "Quillet to MySQL, optimised build": native("quillet_to_mysql", OPTIMISED_BUILD),
+    "libpg_query, raw parse": native("pg_query_parse"),
+    "libpg_query, parse and deparse": native("pg_query_deparse"),
+    "sqlglot to PostgreSQL": sqlglot("postgres"),
+    "sqlglot to MySQL": sqlglot("mysql"),
+    "Quillet in Node, to PostgreSQL": node("quillet-to-postgresql"),
+    "Quillet in Node, to MySQL": node("quillet-to-mysql"),
+    "polyglot to PostgreSQL": node("polyglot-to-postgresql"),
+    "polyglot to MySQL": node("polyglot-to-mysql"),
+    "sqlparser-rs, parse and format": node("sqlparser-rs"),
+    "pgsql-parser, parse and deparse": node("pgsql-parser"),
+    "node-sql-parser to PostgreSQL": node("node-sql-parser-to-postgresql"),
+    "node-sql-parser to MySQL": node("node-sql-parser-to-mysql"),
 }
+IN_NODE = [name for name, contender in CONTENDERS.items() if contender.runs == "Node"]
 YARDSTICK = "libpg_query, raw parse"
 
 
@@ -30,7 +62,7 @@ def run(contender, command, statements, *arguments):
     with tempfile.NamedTemporaryFile("w") as file:
         file.write("\0".join(statements))
         file.flush()
-        words = [*CONTENDERS[contender], command, file.name, *map(str, arguments)]
+        words = [*CONTENDERS[contender].words, command, file.name, *map(str, arguments)]
         try:
             ended = subprocess.run(words, stdout=subprocess.PIPE, text=True, timeout=TIMEOUT)
         except subprocess.TimeoutExpired:

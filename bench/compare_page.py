@@ -1,11 +1,10 @@
-"""The generated part of docs/performance.md, and its plot."""
+"""The generated parts of pages, and the plot of docs/performance.md."""
 
 import subprocess
 import sys
 from pathlib import Path
 
-from compare_contenders import CONTENDERS
-from compare_growth import SHAPES, Cell
+from compare_growth import NATIVE, Cell
 
 PAGE = Path("docs/performance.md")
 PLOT = Path("docs/performance-growth.svg")
@@ -15,16 +14,17 @@ COLOURS = ("#1f4e9c", "#4aa3df", "#b22222", "#f08030", "#2a7a2a", "#8fbf3f")
 PANELS = {"sum": "a + a + …", "values": "VALUES (1, 1, …)"}
 
 
-def update(text):
-    page = PAGE.read_text()
-    if page.count(BEGIN) != 1 or page.count(END) != 1:
-        sys.exit(f"{PAGE} has not one pair of marks")
-    before, rest = page.split(BEGIN)
-    PAGE.write_text(f"{before}{BEGIN}\n{text}\n{END}{rest.split(END)[1]}")
+def update(page, text):
+    """Puts the text between the marks of a page."""
+    found = page.read_text()
+    if found.count(BEGIN) != 1 or found.count(END) != 1:
+        sys.exit(f"{page} has not one pair of marks")
+    before, rest = found.split(BEGIN)
+    page.write_text(f"{before}{BEGIN}\n{text}\n{END}{rest.split(END)[1]}")
 
 
 def points(cells, contender, shape):
-    for members in SHAPES[shape]:
+    for members in NATIVE.shapes[shape]:
         cell = cells.get((contender, shape, members))
         if isinstance(cell, Cell):
             yield f"{members} {cell.time}\n"
@@ -40,13 +40,13 @@ def plot(cells):
         set xlabel "members" offset 0,0.4
         set ylabel "µs a member"
         set format x "%.0f"
-        set xrange [10:100000]
+        set xrange [10:1000000]
         set yrange [0.01:*]
         set multiplot layout 1,2
     """
     for shape, title in PANELS.items():
         lines = []
-        for number, (contender, colour) in enumerate(zip(CONTENDERS, COLOURS)):
+        for number, (contender, colour) in enumerate(zip(NATIVE.contenders, COLOURS)):
             name = f"${shape}_{number}"
             script += f"\n{name} << END\n{''.join(points(cells, contender, shape))}END\n"
             style = f'with linespoints lw 2 lc "{colour}"'

@@ -9,19 +9,22 @@ import time
 from pathlib import Path
 from statistics import median
 
-from compare_contenders import BUILD, figure, table
+from compare_contenders import BUILD, OPTIMISED_BUILD, figure, table
 from compare_startup import wall_time
 
 PROGRAM = BUILD / "quillet-script"
+OPTIMISED = OPTIMISED_BUILD / "quillet-script"
 COPIES = 1000
 RUNS = {
-    "to MySQL, as without options": [],
-    "`--warn none`": ["--warn", "none"],
-    "`--to postgresql`": ["--to", "postgresql"],
-    "`--to postgresql --warn none`": ["--to", "postgresql", "--warn", "none"],
-    "`--placeholders auto`": ["--placeholders", "auto"],
-    "`--format json`": ["--format", "json"],
-    "`--format json --warn none`": ["--format", "json", "--warn", "none"],
+    "to MySQL, as without options": [PROGRAM],
+    "`--warn none`": [PROGRAM, "--warn", "none"],
+    "`--to postgresql`": [PROGRAM, "--to", "postgresql"],
+    "`--to postgresql --warn none`": [PROGRAM, "--to", "postgresql", "--warn", "none"],
+    "`--placeholders auto`": [PROGRAM, "--placeholders", "auto"],
+    "`--format json`": [PROGRAM, "--format", "json"],
+    "`--format json --warn none`": [PROGRAM, "--format", "json", "--warn", "none"],
+    "to MySQL, optimised build": [OPTIMISED],
+    "`--warn none`, optimised build": [OPTIMISED, "--warn", "none"],
 }
 
 
@@ -42,8 +45,8 @@ def measure(script, rounds):
     found = {name: [] for name in RUNS}
     for number in range(rounds):
         print(f"Scripts, round {number + 1} of {rounds}", file=sys.stderr)
-        for name, options in RUNS.items():
-            found[name].append(wall_time([PROGRAM, *options, script]) / 1e6)
+        for name, words in RUNS.items():
+            found[name].append(wall_time([*words, script]) / 1e6)
     return found
 
 
@@ -56,7 +59,7 @@ def section(rounds):
         file.flush()
         size = os.path.getsize(file.name)
         found = measure(file.name, rounds)
-        memory = {name: peak_memory([PROGRAM, *words, file.name]) for name, words in RUNS.items()}
+        memory = {name: peak_memory([*words, file.name]) for name, words in RUNS.items()}
 
     def a_second(seconds):
         return f"{round(statements / seconds, -2):,.0f}"
