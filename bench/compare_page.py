@@ -36,6 +36,7 @@ def plot(cells):
         set output "{PLOT}"
         set logscale xy
         set grid
+        set rmargin 4
         set key below maxrows 3 samplen 2
         set xlabel "members" offset 0,0.4
         set ylabel "µs a member"
