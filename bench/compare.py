@@ -26,11 +26,23 @@ def arguments():
         action="store_true",
         help=f"write into {compare_page.PAGE} and {compare_readme.PAGE}, and plot",
     )
+    parser.add_argument(
+        "--check", action="store_true", help=f"only whether {compare_readme.PAGE} has its figures"
+    )
     return parser.parse_args()
+
+
+def check():
+    text = compare_readme.section(compare_page.PAGE.read_text())
+    if compare_page.updated(compare_readme.PAGE, text) != compare_readme.PAGE.read_text():
+        return f"{compare_readme.PAGE} has other figures than {compare_page.PAGE}"
+    return 0
 
 
 def main():
     options = arguments()
+    if options.check:
+        return check()
     _, hard = resource.getrlimit(resource.RLIMIT_STACK)
     resource.setrlimit(resource.RLIMIT_STACK, (STACK, hard))
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
@@ -53,7 +65,7 @@ def main():
     print(text, end="")
     if options.update:
         compare_page.update(compare_page.PAGE, text)
-        compare_page.update(compare_readme.PAGE, compare_readme.section(measured[0].medians()))
+        compare_page.update(compare_readme.PAGE, compare_readme.section(text))
     if options.update or options.plot:
         compare_page.plot(cells)
 

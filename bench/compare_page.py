@@ -14,13 +14,17 @@ COLOURS = ("#1f4e9c", "#4aa3df", "#b22222", "#f08030", "#2a7a2a", "#8fbf3f")
 PANELS = {"sum": "a + a + …", "values": "VALUES (1, 1, …)"}
 
 
-def update(page, text):
-    """Puts the text between the marks of a page."""
+def updated(page, text):
+    """A page with the text between its marks."""
     found = page.read_text()
     if found.count(BEGIN) != 1 or found.count(END) != 1:
         sys.exit(f"{page} has not one pair of marks")
     before, rest = found.split(BEGIN)
-    page.write_text(f"{before}{BEGIN}\n{text}\n{END}{rest.split(END)[1]}")
+    return f"{before}{BEGIN}\n{text}\n{END}{rest.split(END)[1]}"
+
+
+def update(page, text):
+    page.write_text(updated(page, text))
 
 
 def points(cells, contender, shape):
