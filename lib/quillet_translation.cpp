@@ -176,13 +176,13 @@ private:
     void translate(int builder_id, const limits &allowed) {
         const borrowed_context context;
         builder *ours = context->builders.find(builder_info_of(builder_id));
-        tree_under_way tree(context->tree, ours ? tree_owner::library : tree_owner::host,
+        const tree_under_way tree(context->tree, ours ? tree_owner::library : tree_owner::host,
                             allowed.tree);
         const dialect *own_dialect = builder_table[builder_id].own;
         const bool remarks_are_wanted = own_dialect && allowed.least_severity < QUILLET_REFUSAL;
         const remark_table *remarks = remarks_are_wanted ? own_dialect->remarks : nullptr;
         const bool with_places = ours && remarks && remarks->is_frequent;
-        const parse_result parsed = parse(context->tree, tree, with_places);
+        const parse_result parsed = parse(context->tree, with_places);
         if (parsed.has_open_comment)
             made_.list.add(notices::unended_comment, parsed.open_comment);
         if (parsed.fault != parse_fault::none)
@@ -197,12 +197,12 @@ private:
     }
 
     // Places take memory as well, which the limit of the tree is not for.
-    parse_result parse(tree_memory &memory, tree_under_way &tree, bool with_places) {
+    parse_result parse(tree_memory &memory, bool with_places) {
         if (with_places) {
             try {
                 return parse_statement_with_places(statement_, memory);
             } catch (const tree_is_too_large &) {
-                tree.begin_again();
+                memory.begin_again();
             }
         }
         return parse_statement(statement_, memory);

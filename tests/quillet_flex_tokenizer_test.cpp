@@ -3,11 +3,13 @@
 #include <unistd.h>
 
 #include <cctype>
+#include <random>
 #include <string>
 #include <vector>
 
 #include "quillet_bison_parser.h"
 #include "quillet_parser_tools.h"
+#include "quillet_scanner.h"
 #include "support.h"
 
 using namespace quillet_tests;
@@ -355,6 +357,144 @@ TEST(Scanner, ManyTokens) {
         tokens.emplace_back(',');
     }
     EXPECT_EQ(scan(input), tokens);
+}
+
+// A token where it stands in a statement.
+struct placed_token {
+    token found;
+    std::ptrdiff_t begin;
+    std::ptrdiff_t end;
+    bool operator==(const placed_token &) const = default;
+
+    friend std::ostream &operator<<(std::ostream &out, const placed_token &shown) {
+        return out << shown.begin << '-' << shown.end << ": " << shown.found;
+    }
+};
+
+// What a scanner says of a statement, up to its end or to a fault.
+struct scanned {
+    std::vector<placed_token> tokens;
+    quillet_scan_fault fault = QUILLET_SCAN_NO_FAULT;
+    std::ptrdiff_t fault_begin = 0;
+    std::ptrdiff_t fault_end = 0;
+    bool has_trace = false;
+    bool has_open_comment = false;
+    bool operator==(const scanned &) const = default;
+};
+
+scanned scan_in_place(std::string statement, auto next) {
+    const std::size_t size = statement.size();
+    statement.append(QUILLET_SCAN_WORD, '\0');
+    quillet::tree_memory memory; // without a tree a text is on its own
+    quillet_scan_room room;
+    quillet_scan scan{};
+    scan.tree = &memory;
+    scan.text = scan.at = statement.data();
+    scan.end = scan.text + size;
+    scan.room = &room;
+    scanned all;
+    int code = 0;
+    do {
+        quillet_value value{};
+        code = next(&value, &scan);
+        const bool is_token = code != TOKEN_YY_QUILLET_QUERY_error;
+        all.tokens.push_back({{code, has_text(code) ? taken(value.v_string) : ""},
+                              is_token ? scan.token_begin - scan.text : 0,
+                              is_token ? scan.token_end - scan.text : 0});
+    } while (code > 0 && code != TOKEN_YY_QUILLET_QUERY_error);
+    all.fault = scan.fault;
+    if (scan.fault != QUILLET_SCAN_NO_FAULT) {
+        all.fault_begin = scan.fault_begin - scan.text;
+        all.fault_end = scan.fault_end - scan.text;
+    }
+    all.has_trace = scan.has_trace != 0;
+    all.has_open_comment = scan.has_open_comment != 0;
+    return all;
+}
+
+// Frequent tokens are those of the rules.
+TEST(ScannerInPlace, GivesTheTokensOfTheRules) {
+    const std::vector<std::string> parts = {"select",
+                                            "SeLeCT",
+                                            "a",
+                                            "_a1$",
+                                            "$",
+                                            "current_date",
+                                            "localtimestamp",
+                                            "0",
+                                            "12",
+                                            "1.",
+                                            "1.5",
+                                            ".",
+                                            ".5",
+                                            "e",
+                                            "e5",
+                                            "E+",
+                                            "'",
+                                            "''",
+                                            "\\'",
+                                            "\\",
+                                            "\"",
+                                            "\"\"",
+                                            "--",
+                                            "\n",
+                                            "/*",
+                                            "*/",
+                                            "*",
+                                            "-",
+                                            "/",
+                                            "(",
+                                            ")",
+                                            ",",
+                                            ";",
+                                            "=",
+                                            "<",
+                                            ">",
+                                            "!",
+                                            "~",
+                                            "|",
+                                            "::",
+                                            ":",
+                                            "#",
+                                            "@",
+                                            "&",
+                                            "^",
+                                            "%",
+                                            "+",
+                                            " ",
+                                            "\t\r ",
+                                            " \n",
+                                            "?",
+                                            "\xc3\xa9",
+                                            "x'",
+                                            "'b c'",
+                                            "\"d e\"",
+                                            "order",
+                                            "by7",
+                                            "9z",
+                                            "\v",
+                                            "is"};
+    std::minstd_rand random(7);
+    int without_fault = 0;
+    for (int i = 0; i < 50'000; ++i) {
+        std::string statement;
+        for (auto count = random() % 9; count > 0; --count)
+            statement += parts[random() % parts.size()];
+        const scanned by_rules = scan_in_place(statement, _quillet_scan_by_rules);
+        ASSERT_EQ(scan_in_place(statement, yy_quillet_in_place_lex), by_rules) << statement;
+        without_fault += by_rules.fault == QUILLET_SCAN_NO_FAULT ? 1 : 0;
+    }
+    EXPECT_GT(without_fault, 10'000);
+}
+
+TEST(ScannerInPlace, GivesTheTokensOfTheScannerOfTheProcess) {
+    const std::string statement =
+        "SELECT ||/ 1.5e-3 'a\\'b' !~~* \"c d\" -- e\n/* /* f */ */ g.h, 1";
+    std::vector<token> tokens;
+    for (const placed_token &each : scan_in_place(statement, yy_quillet_in_place_lex).tokens)
+        if (each.found.code)
+            tokens.push_back(each.found);
+    EXPECT_EQ(tokens, scan(statement));
 }
 
 // Scans with standard output where the test sees it. The status 1 tells that nothing ended the

@@ -58,7 +58,7 @@ using namespace quillet;
 #define YYLLOC_DEFAULT(whole, parts, count) (whole) = location_of_all(&(parts)[0], count)
 
 static int yylex(quillet_value *value, YYLTYPE *location, quillet_parsing *parse) {
-    const int token = yy_quillet_in_place_lex(value, parse->scanner);
+    const int token = yy_quillet_in_place_lex(value, parse->scan);
     const place where = parse->last_token();
     *location = {0, static_cast<int>(where.begin), 0, static_cast<int>(where.end)};
     return token;
@@ -74,7 +74,7 @@ static void yyerror(const YYLTYPE *, quillet_parsing *parse, quillet_tree_memory
 
 static int yylex(quillet_value *value, quillet_parsing *parse) {
 #ifdef QUILLET_IN_PLACE
-    return yy_quillet_in_place_lex(value, parse->scanner);
+    return yy_quillet_in_place_lex(value, parse->scan);
 #else
     return _quillet_query_lex(value, nullptr);
 #endif

@@ -3,12 +3,14 @@
 #include <cstdio>
 #include <cstring>
 #include <new>
+#include <string_view>
 #include <utility>
 
 #include "quillet_limits.h"
 #include "quillet_parse_tree.h"
 #include "quillet_parser_tools.h"
 #include "quillet_parsing.h"
+#include "quillet_statement_parser.h"
 
 using namespace quillet;
 
@@ -27,7 +29,7 @@ extern "C" int yy_quillet_error(const char *message) {
 }
 
 void quillet_parsing::fail(const char *message) {
-    if (!scanner) {
+    if (!scan) {
         yy_quillet_error(message);
         return;
     }
@@ -63,9 +65,23 @@ private:
     quillet_tree_memory *former_tree_;
 };
 
-int parse(const char *query, tree_memory &memory) {
+// Parses a query where it stands, which takes less time. That can tell about a correct one alone,
+// which is read to its end, leaves nothing to the next one, and prints nothing.
+bool parse_in_place(std::string_view query, tree_memory &memory) {
+    const parse_result result = parse_statement(query, memory);
+    if (!result.root || result.has_trace) {
+        memory.begin_again();
+        return false;
+    }
+    root = result.root;
+    return true;
+}
+
+int parse(std::string_view query, tree_memory &memory) {
     try {
-        const query_being_parsed parsed(query, memory);
+        if (_quillet_scanner_is_fresh() && parse_in_place(query, memory))
+            return QUILLET_PARSE_ACCEPTED;
+        const query_being_parsed parsed(query.data(), memory);
         return yy_quillet_parse();
     } catch (const std::bad_alloc &) { // what was read is lost with it
         _quillet_scanner_reset();
@@ -77,9 +93,10 @@ int parse(const char *query, tree_memory &memory) {
 
 int quillet::parse_query(const char *query, tree_memory &memory) {
     root = nullptr;
-    if (std::strlen(query) > QUILLET_QUERY_SIZE_MAXIMUM)
+    const std::string_view text = query;
+    if (text.size() > QUILLET_QUERY_SIZE_MAXIMUM)
         return QUILLET_PARSE_STACK_OVERFLOW;
-    const int result = parse(query, memory);
+    const int result = parse(text, memory);
     // A statement may be complete, and in root, before what follows it turns out to be wrong.
     if (result != QUILLET_PARSE_ACCEPTED) {
         _quillet_scanner_forget_look();

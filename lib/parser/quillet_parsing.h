@@ -45,9 +45,9 @@ inline place place_before(const void *node) { return static_cast<const place *>(
 } // namespace quillet
 
 struct quillet_parsing {
-    void *scanner = nullptr;   // of a statement where it stands; NULL: the one of quillet_parse
-    quillet_blocks stack = {}; // what bison holds
-    node_main *root = nullptr; // which may be complete before what follows it turns out wrong
+    quillet_scan *scan = nullptr; // of a statement where it stands; NULL: that of quillet_parse
+    quillet_blocks stack = {};    // what bison holds
+    node_main *root = nullptr;    // which may be complete before what follows it turns out wrong
     bool is_too_deep = false;
     bool has_lost_type = false; // a word before a string that names no type
 
@@ -57,13 +57,12 @@ struct quillet_parsing {
         return named;
     }
 
-    // The place of the last token in the statement.
-    quillet::place last_token() const {
-        std::size_t begin = 0;
-        std::size_t end = 0;
-        _quillet_in_place_last_token(scanner, &begin, &end);
-        return {static_cast<std::uint32_t>(begin), static_cast<std::uint32_t>(end)};
+    // A place in the statement.
+    quillet::place place_of(const char *begin, const char *end) const {
+        return {static_cast<std::uint32_t>(begin - scan->text),
+                static_cast<std::uint32_t>(end - scan->text)};
     }
+    quillet::place last_token() const { return place_of(scan->token_begin, scan->token_end); }
 
     // Takes bison's word for why the parse has failed.
     void fail(const char *message);

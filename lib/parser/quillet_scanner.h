@@ -28,26 +28,38 @@ enum quillet_scan_fault {
 
 union quillet_value;
 
+/* What flex's scanner of one statement holds. */
+struct quillet_scan_room {
+    size_t used;
+    void *room[40];
+};
+
 /* What a scanner has beside flex's own state. */
 struct quillet_scan {
     struct quillet_tree_memory *tree; /* where the texts of tokens go */
-    struct quillet_blocks blocks;     /* what flex holds */
 
-    /* Of the one for the process: what it has read on for. */
+    /* Of the one for the process: what flex holds, and what it has read on for. */
+    struct quillet_blocks blocks;
     const char *read_to; /* where in the buffer text was read to for the token being scanned */
     const char *look;    /* the same for the last token; NULL if nothing was read */
 
-    /* Of one that scans a statement where it stands. Positions are in the text. */
-    const char *text;
-    size_t size;   /* up to the first NUL */
-    int is_cut;    /* whether that stands there */
-    int is_at_end; /* whether the parser has been told so */
+    /* Of one that scans a statement where it stands. */
+    char *text;
+    char *end;               /* at the first NUL */
+    char *at;                /* what has not been scanned begins there */
+    const char *token_begin; /* the last token */
+    const char *token_end;
+    int is_cut; /* whether the statement goes on after the NUL at its end */
     int comment_depth;
     int has_open_comment; /* at the end */
-    size_t comment_begin; /* of the last one */
+    int has_trace; /* whether that of quillet_parse would print something, or leave a comment open
+                    */
+    const char *comment_begin; /* of the last one */
     enum quillet_scan_fault fault;
-    size_t fault_begin;
-    size_t fault_end;
+    const char *fault_begin;
+    const char *fault_end;
+    void *rules; /* flex's scanner; NULL while none has been needed */
+    struct quillet_scan_room *room;
 };
 
 /* The scanner of quillet_parse. */
@@ -56,6 +68,9 @@ extern struct quillet_scan _quillet_scan;
 
 /* The same as yy_quillet_lex, with the value where one wants it. There is no second argument. */
 int _quillet_query_lex(union quillet_value *value, void *scanner);
+
+/* Whether nothing is unread, and no comment open. */
+int _quillet_scanner_is_fresh(void);
 
 /* Puts the scanner into the state that it begins in, as after an exception. */
 void _quillet_scanner_reset(void);
@@ -69,19 +84,15 @@ void _quillet_scanner_forget_look(void);
 
 /* A scanner of a statement where it stands. */
 
-/* Makes the scanner of a statement, after whose end there are two NULs; each token is ended by a
-   NUL while it is the last one. Throws without memory. */
-void *_quillet_in_place_begin(struct quillet_scan *scan, char *text, size_t size);
-
-/* Gives back what a scanner holds. */
-void _quillet_in_place_end(struct quillet_scan *scan);
+/* It reads by words of so many bytes, of the size that the tree's memory is taken by. */
+#define QUILLET_SCAN_WORD sizeof(void *)
 
 /* The next token's code; 0 at the end, and bison's own for an error after a fault. Stores the value
-   of one with a text. */
-int yy_quillet_in_place_lex(union quillet_value *value, void *scanner);
+   of one with a text. After the statement's end stands a word of NULs. */
+int yy_quillet_in_place_lex(union quillet_value *value, struct quillet_scan *scan);
 
-/* Where the last token stands. */
-void _quillet_in_place_last_token(void *scanner, size_t *begin, size_t *end);
+/* The same by flex's rules, for what is not frequent. */
+int _quillet_scan_by_rules(union quillet_value *value, struct quillet_scan *scan);
 
 #ifdef __cplusplus
 }

@@ -19,37 +19,35 @@ parse_fault fault_of(quillet_scan_fault fault) {
     return parse_fault::none;
 }
 
-place place_of(std::size_t begin, std::size_t end) {
-    return {static_cast<std::uint32_t>(begin), static_cast<std::uint32_t>(end)};
-}
-
 // A statement while it is parsed. What the generated code holds goes with it.
 class statement_parse {
 public:
     statement_parse(std::string_view statement, tree_memory &memory)
-        : text_(new char[statement.size() + 2]) {
+        : text_(new char[statement.size() + QUILLET_SCAN_WORD]) {
+        const std::size_t size = std::min(statement.find('\0'), statement.size());
+        std::memcpy(text_.get(), statement.data(), size);
+        std::memset(text_.get() + size, '\0', QUILLET_SCAN_WORD);
         scan_.tree = &memory;
-        scan_.text = text_.get();
-        scan_.size = std::min(statement.find('\0'), statement.size());
-        std::memcpy(text_.get(), statement.data(), scan_.size);
-        text_[scan_.size] = text_[scan_.size + 1] = '\0';
-        scan_.is_cut = scan_.size < statement.size() ? 1 : 0;
+        scan_.text = scan_.at = text_.get();
+        scan_.end = scan_.text + size;
+        scan_.is_cut = size < statement.size() ? 1 : 0;
+        scan_.room = &room_;
+        parsing_.scan = &scan_;
     }
-    ~statement_parse() { _quillet_in_place_end(&scan_); }
     statement_parse(const statement_parse &) = delete;
     statement_parse &operator=(const statement_parse &) = delete;
 
     parse_result result_of(parser made_by_bison) {
-        parsing_.scanner = _quillet_in_place_begin(&scan_, text_.get(), scan_.size);
         parse_result result;
         if (run(made_by_bison, parsing_, scan_.tree) == 0)
             result.root = parsing_.root;
         else
             explain(result);
         result.has_lost_type = parsing_.has_lost_type;
+        result.has_trace = scan_.has_trace != 0;
         result.has_open_comment = scan_.has_open_comment != 0;
         if (result.has_open_comment)
-            result.open_comment = place_of(scan_.comment_begin, scan_.size);
+            result.open_comment = parsing_.place_of(scan_.comment_begin, scan_.end);
         return result;
     }
 
@@ -57,7 +55,7 @@ private:
     void explain(parse_result &result) {
         result.fault = fault_of(scan_.fault);
         if (result.fault != parse_fault::none) {
-            result.where = place_of(scan_.fault_begin, scan_.fault_end);
+            result.where = parsing_.place_of(scan_.fault_begin, scan_.fault_end);
             return;
         }
         result.fault = parsing_.is_too_deep ? parse_fault::too_deep : parse_fault::syntax_error;
@@ -66,6 +64,7 @@ private:
 
     std::unique_ptr<char[]> text_;
     quillet_scan scan_ = {};
+    quillet_scan_room room_;
     quillet_parsing parsing_;
 };
 

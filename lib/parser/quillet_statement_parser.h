@@ -29,6 +29,7 @@ struct parse_result {
     place where{};                 // of the fault; of a syntax error the token that does not fit
     bool has_places = false;       // the nodes have places before them
     bool has_lost_type = false;    // a word before a string names no type, and is not in the tree
+    bool has_trace = false;        // quillet_parse prints something, or leaves a comment open
     bool has_open_comment = false; // without an end; what stands before it is parsed all the same
     place open_comment{};
 };

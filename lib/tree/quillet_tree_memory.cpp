@@ -57,7 +57,7 @@ void tree_memory::free_all(std::vector<void *> &blocks) {
 }
 
 void tree_memory::begin(tree_owner owner, std::size_t limit) {
-    left_ = limit;
+    limit_ = left_ = limit;
     owner_ = owner;
 #ifndef QUILLET_WITHOUT_ARENA
     if (owner == tree_owner::library) {

@@ -67,6 +67,12 @@ public:
     // Frees the tree, unless it has been kept, and ends it.
     void end();
 
+    // Begins anew, without what there is of the tree.
+    void begin_again() {
+        end();
+        begin(owner_, limit_);
+    }
+
     // Leaves the blocks of the tree to somebody else. Returns whether that is possible.
     bool keep();
 
@@ -99,7 +105,8 @@ private:
 
     state state_ = state::no_tree;
     tree_owner owner_ = tree_owner::library;
-    bool is_incomplete_ = false;  // whether there was no memory for one of the given blocks
+    bool is_incomplete_ = false; // whether there was no memory for one of the given blocks
+    std::size_t limit_ = 0;
     std::size_t left_ = 0;        // of the limit, besides what is free in the chunk in use
     std::size_t made_chunks_ = 0; // those with memory are among the first so many
     std::size_t used_chunks_ = 0;
@@ -113,24 +120,15 @@ class tree_under_way {
 public:
     tree_under_way(tree_memory &memory, tree_owner owner,
                    std::size_t limit = QUILLET_TREE_SIZE_MAXIMUM)
-        : memory_(memory), owner_(owner), limit_(limit) {
-        memory_.begin(owner_, limit_);
+        : memory_(memory) {
+        memory_.begin(owner, limit);
     }
     ~tree_under_way() { memory_.end(); }
-
-    // Begins anew, without what there is of the tree.
-    void begin_again() {
-        memory_.end();
-        memory_.begin(owner_, limit_);
-    }
-
     tree_under_way(const tree_under_way &) = delete;
     tree_under_way &operator=(const tree_under_way &) = delete;
 
 private:
     tree_memory &memory_;
-    const tree_owner owner_;
-    const std::size_t limit_;
 };
 
 } // namespace quillet

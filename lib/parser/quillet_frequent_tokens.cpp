@@ -1,0 +1,137 @@
+// The tokens that most of a statement consists of are scanned without flex's tables: a step of
+// those waits for the last one, which is most of what scanning takes. What begins otherwise is left
+// to the rules.
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+#include "quillet_keywords.h"
+#include "quillet_parser_values.h"
+#include "quillet_scanner.h"
+#include "quillet_tree_memory.h"
+
+namespace {
+
+enum class kind : std::uint8_t {
+    other,
+    blank,
+    letter, // which begins a word
+    digit,
+    dollar, // which goes on with one
+    single, // a token that no other one begins with
+    dot,
+    quote,
+    double_quote
+};
+
+constexpr std::array<kind, 256> kinds = [] {
+    std::array<kind, 256> table{};
+    const auto set = [&](std::string_view characters, kind of_all) {
+        for (const char c : characters)
+            table[static_cast<unsigned char>(c)] = of_all;
+    };
+    set(" \t\r\n", kind::blank);
+    set("abcdefghijklmnopqrstuvwxyz_ABCDEFGHIJKLMNOPQRSTUVWXYZ", kind::letter);
+    set("0123456789", kind::digit);
+    set("$", kind::dollar);
+    set("#@&*(),^%+=;", kind::single);
+    set(".", kind::dot);
+    set("'", kind::quote);
+    set("\"", kind::double_quote);
+    return table;
+}();
+
+kind kind_of(char c) { return kinds[static_cast<unsigned char>(c)]; }
+
+bool is_of_word(char c) {
+    const kind found = kind_of(c);
+    return found >= kind::letter && found <= kind::dollar;
+}
+
+// Returns the first character that does not belong to what a text begins with.
+char *end_of(char *text, auto belongs) {
+    while (belongs(*text))
+        ++text;
+    return text;
+}
+
+// A token's text is copied by words, as both ends have room for the last one. Most have one or two.
+char *copy(quillet_tree_memory *tree, const char *begin, std::size_t size) {
+    auto *text = static_cast<char *>(_quillet_tree_take(tree, size + 1));
+    for (std::size_t i = 0; i < size; i += QUILLET_SCAN_WORD)
+        std::memcpy(text + i, begin + i, QUILLET_SCAN_WORD);
+    text[size] = '\0';
+    return text;
+}
+
+// A token that is being scanned.
+struct lexeme {
+    quillet_value *value;
+    quillet_scan *scan;
+    char *begin;
+
+    int ends(char *end, int code) const {
+        scan->token_begin = begin;
+        scan->token_end = scan->at = end;
+        return code;
+    }
+
+    int ends_with_text(char *end, int code) const {
+        value->v_string = copy(scan->tree, begin, static_cast<std::size_t>(end - begin));
+        return ends(end, code);
+    }
+
+    int by_rules() const {
+        scan->at = begin;
+        return _quillet_scan_by_rules(value, scan);
+    }
+
+    int word() const {
+        char *end = end_of(begin + 1, is_of_word);
+        const int code = _quillet_word_token(begin, static_cast<std::size_t>(end - begin));
+        return _quillet_has_text(code) ? ends_with_text(end, code) : ends(end, code);
+    }
+
+    int number() const {
+        char *end = end_of(begin + 1, [](char c) { return kind_of(c) == kind::digit; });
+        const bool may_go_on = *end == '.' || *end == 'e' || *end == 'E';
+        return may_go_on ? by_rules() : ends_with_text(end, TOKEN_INTEGER);
+    }
+
+    // A text in quotes of at least so many characters.
+    int quoted(int code, std::ptrdiff_t least) const {
+        const char quote = *begin;
+        char *end = end_of(begin + 1, [quote](char c) { return c != quote && c != '\0'; });
+        const bool is_escaped = quote == '\'' && end[-1] == '\\';
+        if (*end == '\0' || is_escaped || end - begin <= least)
+            return by_rules();
+        return ends_with_text(end + 1, code);
+    }
+};
+
+} // namespace
+
+int yy_quillet_in_place_lex(quillet_value *value, quillet_scan *scan) {
+    char *begin = end_of(scan->at, [](char c) { return kind_of(c) == kind::blank; });
+    const lexeme next{value, scan, begin};
+    switch (kind_of(*begin)) {
+    case kind::letter: return next.word();
+    case kind::digit: return next.number();
+    case kind::dot:
+        if (kind_of(begin[1]) == kind::digit)
+            break;
+        [[fallthrough]];
+    case kind::single: return next.ends(begin + 1, *begin);
+    case kind::quote: return next.quoted(TOKEN_STRING, 0);
+    case kind::double_quote: return next.quoted(TOKEN_IDENTIFIER, 1);
+    case kind::dollar:
+    case kind::blank:
+    case kind::other: break;
+    }
+    const bool is_end = begin == scan->end && !scan->is_cut;
+    return is_end ? next.ends(begin, TOKEN_YYEOF) : next.by_rules();
+}
