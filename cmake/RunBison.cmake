@@ -2,7 +2,7 @@
 # counts is a change of the language.
 #
 #   cmake -DBISON=... -DGRAMMAR=... -DOUTPUT=... -DPREFIX=... -DSHIFT_REDUCE=n -DREDUCE_REDUCE=n
-#         [-DHEADER=...] [-DLOCATIONS=ON] -P RunBison.cmake
+#         [-DHEADER=...] [-DSKELETON=...] -P RunBison.cmake
 
 # Its messages are read below, whatever language the user's are in.
 set(ENV{LC_ALL} C)
@@ -12,8 +12,8 @@ set(options --output=${OUTPUT} -Dapi.prefix={${PREFIX}})
 if(HEADER)
     list(APPEND options --defines=${HEADER})
 endif()
-if(LOCATIONS)
-    list(APPEND options --locations)
+if(SKELETON)
+    list(APPEND options --skeleton=${SKELETON})
 endif()
 
 execute_process(

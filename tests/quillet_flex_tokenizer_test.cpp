@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "quillet_bison_parser.h"
+#include "quillet_frequent_tokens.h"
 #include "quillet_parser_tools.h"
 #include "quillet_scanner.h"
 #include "support.h"
@@ -382,7 +383,7 @@ struct scanned {
     bool operator==(const scanned &) const = default;
 };
 
-scanned scan_in_place(std::string statement, auto next) {
+scanned scan_all(std::string statement, auto next) {
     const std::size_t size = statement.size();
     statement.append(QUILLET_SCAN_WORD, '\0');
     quillet::tree_memory memory; // without a tree a text is on its own
@@ -480,8 +481,8 @@ TEST(ScannerInPlace, GivesTheTokensOfTheRules) {
         std::string statement;
         for (auto count = random() % 9; count > 0; --count)
             statement += parts[random() % parts.size()];
-        const scanned by_rules = scan_in_place(statement, _quillet_scan_by_rules);
-        ASSERT_EQ(scan_in_place(statement, yy_quillet_in_place_lex), by_rules) << statement;
+        const scanned by_rules = scan_all(statement, _quillet_scan_by_rules);
+        ASSERT_EQ(scan_all(statement, quillet::scan_in_place), by_rules) << statement;
         without_fault += by_rules.fault == QUILLET_SCAN_NO_FAULT ? 1 : 0;
     }
     EXPECT_GT(without_fault, 10'000);
@@ -491,7 +492,7 @@ TEST(ScannerInPlace, GivesTheTokensOfTheScannerOfTheProcess) {
     const std::string statement =
         "SELECT ||/ 1.5e-3 'a\\'b' !~~* \"c d\" -- e\n/* /* f */ */ g.h, 1";
     std::vector<token> tokens;
-    for (const placed_token &each : scan_in_place(statement, yy_quillet_in_place_lex).tokens)
+    for (const placed_token &each : scan_all(statement, quillet::scan_in_place).tokens)
         if (each.found.code)
             tokens.push_back(each.found);
     EXPECT_EQ(tokens, scan(statement));

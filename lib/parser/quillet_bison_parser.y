@@ -4,14 +4,15 @@
  * Conventions
  *
  * - An action makes one node of the tree, named after its nonterminal, and moves the values of the
- *   right-hand side into it; make() copies a record into the tree's memory, so an action reads as
- *   the record that it builds. An empty optional clause is NULL.
+ *   right-hand side into it; "new (here)" makes it in the tree's memory, so an action reads as the
+ *   record that it builds. An empty optional clause is NULL.
  * - A token's text is a copy that the scanner hands over; it ends up in a node. A node that only
  *   carries a word to its parent (identifiers that name types, join types) is given back there.
  * - What a failed parse had built goes with the tree's memory.
  * - Three parsers are made of this grammar: that of quillet_parse, which reads from the scanner of
- *   the process; one of a statement where it stands; and the same with bison's locations, which
- *   keeps the place of each node. "here" is where an action's node goes.
+ *   the process, with bison's own driver; one of a statement where it stands, with the driver of
+ *   quillet_parser_driver.h; and the same with the place of each node. "here" is where an action's
+ *   node goes.
  * - Lists are left-recursive: the head of the chain holds the last item.
  * - The value of the kind k is v_k. The union of the values is plain pointers: bison lets the stacks
  *   grow from 200 to 10,000 entries in C++ only if they can be copied as bytes.
@@ -44,44 +45,28 @@ struct quillet_tree_memory;
 %code {
 #include "quillet_limits.h"
 #include "quillet_parser_actions.h"
+#include "quillet_parser_symbols.h"
 
+using namespace quillet;
+
+#ifdef QUILLET_PLACES
+using symbol = placed_symbol;
+#define here (placed_tree{static_cast<tree_memory &>(*memory), where})
+#else
+using symbol = parsed_symbol;
+#define here (static_cast<tree_memory &>(*memory))
+#endif
+
+/* For bison's own driver. */
+#ifndef QUILLET_IN_PLACE
 #define YYMALLOC(size) _quillet_blocks_take(&parse->stack, nullptr, size)
 #define YYFREE(block) _quillet_blocks_give(&parse->stack, block)
 #define YYINITDEPTH QUILLET_PARSER_STACK_INITIAL
 #define YYMAXDEPTH QUILLET_PARSER_STACK_MAXIMUM
 
-using namespace quillet;
+static int yylex(quillet_value *value, quillet_parsing *) { return _quillet_query_lex(value, nullptr); }
 
-#ifdef QUILLET_PLACES
-
-#define here (placed_tree{static_cast<tree_memory &>(*memory), place_of(yyloc)})
-#define YYLLOC_DEFAULT(whole, parts, count) (whole) = location_of_all(&(parts)[0], count)
-
-static int yylex(quillet_value *value, YYLTYPE *location, quillet_parsing *parse) {
-    const int token = yy_quillet_in_place_lex(value, parse->scan);
-    const place where = parse->last_token();
-    *location = {0, static_cast<int>(where.begin), 0, static_cast<int>(where.end)};
-    return token;
-}
-
-static void yyerror(const YYLTYPE *, quillet_parsing *parse, quillet_tree_memory *, const char *message) {
-    parse->fail(message);
-}
-
-#else
-
-#define here (static_cast<tree_memory &>(*memory))
-
-static int yylex(quillet_value *value, quillet_parsing *parse) {
-#ifdef QUILLET_IN_PLACE
-    return yy_quillet_in_place_lex(value, parse->scan);
-#else
-    return _quillet_query_lex(value, nullptr);
-#endif
-}
-
-static void yyerror(quillet_parsing *parse, quillet_tree_memory *, const char *message) { parse->fail(message); }
-
+static void yyerror(quillet_parsing *, quillet_tree_memory *, const char *message) { yy_quillet_error(message); }
 #endif
 }
 
@@ -241,10 +226,10 @@ input
     ;
 
 statement
-    : insert opt_semicolon { $$ = make(here, node_main{.insert = $1}); }
-    | select opt_semicolon { $$ = make(here, node_main{.select = $1}); }
-    | update opt_semicolon { $$ = make(here, node_main{.update = $1}); }
-    | delete opt_semicolon { $$ = make(here, node_main{.delete_ = $1}); }
+    : insert opt_semicolon { $$ = new (here) node_main{.insert = $1}; }
+    | select opt_semicolon { $$ = new (here) node_main{.select = $1}; }
+    | update opt_semicolon { $$ = new (here) node_main{.update = $1}; }
+    | delete opt_semicolon { $$ = new (here) node_main{.delete_ = $1}; }
     ;
 
 opt_semicolon
@@ -253,179 +238,179 @@ opt_semicolon
     ;
 
 insert
-    : INSERT INTO table VALUES values_list { $$ = make(here, node_insert{.table = $3, .values_list = $5}); }
+    : INSERT INTO table VALUES values_list { $$ = new (here) node_insert{.table = $3, .values_list = $5}; }
     | INSERT INTO table '(' identifier_list ')' VALUES values_list
-        { $$ = make(here, node_insert{.table = $3, .identifier_list = $5, .values_list = $8}); }
+        { $$ = new (here) node_insert{.table = $3, .identifier_list = $5, .values_list = $8}; }
     ;
 
 update
-    : UPDATE table set_clausule where_clausule { $$ = make(here, node_update{.table = $2, .set_clausule = $3, .where_clausule = $4}); }
+    : UPDATE table set_clausule where_clausule { $$ = new (here) node_update{.table = $2, .set_clausule = $3, .where_clausule = $4}; }
     ;
 
 delete
-    : DELETE FROM table where_clausule { $$ = make(here, node_delete{.table = $3, .where_clausule = $4}); }
+    : DELETE FROM table where_clausule { $$ = new (here) node_delete{.table = $3, .where_clausule = $4}; }
     ;
 
 set_clausule
-    : SET set_list { $$ = make(here, node_set_clausule{.set_list = $2}); }
+    : SET set_list { $$ = new (here) node_set_clausule{.set_list = $2}; }
     ;
 
 set_list
-    : set_list ',' set_item { $$ = make(here, node_set_list{.set_list = $1, .set_item = $3}); }
-    | set_item              { $$ = make(here, node_set_list{.set_item = $1}); }
+    : set_list ',' set_item { $$ = new (here) node_set_list{.set_list = $1, .set_item = $3}; }
+    | set_item              { $$ = new (here) node_set_list{.set_item = $1}; }
     ;
 
 set_item
-    : column_reference '=' expression { $$ = make(here, node_set_item{.column_reference = $1, .expression = $3}); }
+    : column_reference '=' expression { $$ = new (here) node_set_item{.column_reference = $1, .expression = $3}; }
     ;
 
 values_list
-    : DEFAULT VALUES                     { $$ = make(here, node_values_list{}); }
-    | '(' expression_or_default_list ')' { $$ = make(here, node_values_list{.expression_or_default_list = $2}); }
+    : DEFAULT VALUES                     { $$ = new (here) node_values_list{}; }
+    | '(' expression_or_default_list ')' { $$ = new (here) node_values_list{.expression_or_default_list = $2}; }
     ;
 
 expression_or_default_list
     : expression_or_default_list ',' expression_or_default_item
-        { $$ = make(here, node_expression_or_default_list{.expression_or_default_list = $1, .expression_or_default_item = $3}); }
-    | expression_or_default_item { $$ = make(here, node_expression_or_default_list{.expression_or_default_item = $1}); }
+        { $$ = new (here) node_expression_or_default_list{.expression_or_default_list = $1, .expression_or_default_item = $3}; }
+    | expression_or_default_item { $$ = new (here) node_expression_or_default_list{.expression_or_default_item = $1}; }
     ;
 
 expression_or_default_item
-    : expression { $$ = make(here, node_expression_or_default_item{.expression = $1}); }
-    | DEFAULT    { $$ = make(here, node_expression_or_default_item{}); }
+    : expression { $$ = new (here) node_expression_or_default_item{.expression = $1}; }
+    | DEFAULT    { $$ = new (here) node_expression_or_default_item{}; }
     ;
 
 select
     : SELECT distinct_select_list FROM tables where_clausule group_by_clausule order_by_clausule limit_clausule
         {
-          $$ = make(here, node_select{.distinct_select_list = $2, .tables = $4, .where_clausule = $5,
-                                .group_by_clausule = $6, .order_by_clausule = $7, .limit_clausule = $8});
+          $$ = new (here) node_select{.distinct_select_list = $2, .tables = $4, .where_clausule = $5,
+                                .group_by_clausule = $6, .order_by_clausule = $7, .limit_clausule = $8};
         }
-    | SELECT distinct_select_list { $$ = make(here, node_select{.distinct_select_list = $2}); }
+    | SELECT distinct_select_list { $$ = new (here) node_select{.distinct_select_list = $2}; }
     ;
 
 /* The FROM part. */
 
 tables
-    : tables_list join_list { $$ = make(here, node_tables{.tables_list = $1, .join_list = $2}); }
+    : tables_list join_list { $$ = new (here) node_tables{.tables_list = $1, .join_list = $2}; }
     ;
 
 tables_list
-    : table                 { $$ = make(here, node_tables_list{.table = $1}); }
-    | tables_list ',' table { $$ = make(here, node_tables_list{.table = $3, .tables_list = $1}); }
+    : table                 { $$ = new (here) node_tables_list{.table = $1}; }
+    | tables_list ',' table { $$ = new (here) node_tables_list{.table = $3, .tables_list = $1}; }
     ;
 
 join_list
     : %empty         { $$ = nullptr; }
-    | join_list join { $$ = make(here, node_join_list{.join = $2, .join_list = $1}); }
-    | join           { $$ = make(here, node_join_list{.join = $1}); }
+    | join_list join { $$ = new (here) node_join_list{.join = $2, .join_list = $1}; }
+    | join           { $$ = new (here) node_join_list{.join = $1}; }
     ;
 
 join
-    : join_type JOIN table join_expression { $$ = make(here, node_join{.type = taken(here, $1), .table = $3, .join_expression = $4}); }
-    | NATURAL join_type JOIN table         { $$ = make(here, node_join{.type = taken(here, $2), .natural = 1, .table = $4}); }
-    | CROSS JOIN table                     { $$ = make(here, node_join{.type = QUILLET_JOIN_CROSS, .table = $3}); }
+    : join_type JOIN table join_expression { $$ = new (here) node_join{.type = taken(here, $1), .table = $3, .join_expression = $4}; }
+    | NATURAL join_type JOIN table         { $$ = new (here) node_join{.type = taken(here, $2), .natural = 1, .table = $4}; }
+    | CROSS JOIN table                     { $$ = new (here) node_join{.type = QUILLET_JOIN_CROSS, .table = $3}; }
     ;
 
 join_type
-    : %empty      { $$ = make(here, node_join_type{.type = QUILLET_JOIN_INNER}); }
-    | INNER       { $$ = make(here, node_join_type{.type = QUILLET_JOIN_INNER}); }
-    | OUTER       { $$ = make(here, node_join_type{.type = QUILLET_JOIN_LEFT}); }
-    | LEFT        { $$ = make(here, node_join_type{.type = QUILLET_JOIN_LEFT}); }
-    | RIGHT       { $$ = make(here, node_join_type{.type = QUILLET_JOIN_RIGHT}); }
-    | FULL        { $$ = make(here, node_join_type{.type = QUILLET_JOIN_FULL}); }
-    | LEFT OUTER  { $$ = make(here, node_join_type{.type = QUILLET_JOIN_LEFT}); }
-    | RIGHT OUTER { $$ = make(here, node_join_type{.type = QUILLET_JOIN_RIGHT}); }
-    | FULL OUTER  { $$ = make(here, node_join_type{.type = QUILLET_JOIN_FULL}); }
+    : %empty      { $$ = new (here) node_join_type{.type = QUILLET_JOIN_INNER}; }
+    | INNER       { $$ = new (here) node_join_type{.type = QUILLET_JOIN_INNER}; }
+    | OUTER       { $$ = new (here) node_join_type{.type = QUILLET_JOIN_LEFT}; }
+    | LEFT        { $$ = new (here) node_join_type{.type = QUILLET_JOIN_LEFT}; }
+    | RIGHT       { $$ = new (here) node_join_type{.type = QUILLET_JOIN_RIGHT}; }
+    | FULL        { $$ = new (here) node_join_type{.type = QUILLET_JOIN_FULL}; }
+    | LEFT OUTER  { $$ = new (here) node_join_type{.type = QUILLET_JOIN_LEFT}; }
+    | RIGHT OUTER { $$ = new (here) node_join_type{.type = QUILLET_JOIN_RIGHT}; }
+    | FULL OUTER  { $$ = new (here) node_join_type{.type = QUILLET_JOIN_FULL}; }
     ;
 
 join_expression
     : %empty                        { $$ = nullptr; }
-    | ON expression                 { $$ = make(here, node_join_expression{.expression = $2}); }
-    | USING '(' identifier_list ')' { $$ = make(here, node_join_expression{.identifier_list = $3}); }
+    | ON expression                 { $$ = new (here) node_join_expression{.expression = $2}; }
+    | USING '(' identifier_list ')' { $$ = new (here) node_join_expression{.identifier_list = $3}; }
     ;
 
 table
-    : identifier               { $$ = make(here, node_table{.identifier = $1}); }
-    | identifier identifier    { $$ = make(here, node_table{.identifier = $1, .alias = $2}); }
-    | identifier AS identifier { $$ = make(here, node_table{.identifier = $1, .alias = $3}); }
+    : identifier               { $$ = new (here) node_table{.identifier = $1}; }
+    | identifier identifier    { $$ = new (here) node_table{.identifier = $1, .alias = $2}; }
+    | identifier AS identifier { $$ = new (here) node_table{.identifier = $1, .alias = $3}; }
     ;
 
 /* The later clauses. */
 
 where_clausule
     : %empty           { $$ = nullptr; }
-    | WHERE expression { $$ = make(here, node_where_clausule{.expression = $2}); }
+    | WHERE expression { $$ = new (here) node_where_clausule{.expression = $2}; }
     ;
 
 group_by_clausule
     : %empty { $$ = nullptr; }
     | GROUP BY column_reference_list having_clausule
-        { $$ = make(here, node_group_by_clausule{.column_reference_list = $3, .having_clausule = $4}); }
+        { $$ = new (here) node_group_by_clausule{.column_reference_list = $3, .having_clausule = $4}; }
     ;
 
 having_clausule
     : %empty            { $$ = nullptr; }
-    | HAVING expression { $$ = make(here, node_having_clausule{.expression = $2}); }
+    | HAVING expression { $$ = new (here) node_having_clausule{.expression = $2}; }
     ;
 
 order_by_clausule
     : %empty                 { $$ = nullptr; }
-    | ORDER BY order_by_list { $$ = make(here, node_order_by_clausule{.order_by_list = $3}); }
+    | ORDER BY order_by_list { $$ = new (here) node_order_by_clausule{.order_by_list = $3}; }
     ;
 
 order_by_list
-    : order_by_list ',' order_by_item { $$ = make(here, node_order_by_list{.order_by_list = $1, .order_by_item = $3}); }
-    | order_by_item                   { $$ = make(here, node_order_by_list{.order_by_item = $1}); }
+    : order_by_list ',' order_by_item { $$ = new (here) node_order_by_list{.order_by_list = $1, .order_by_item = $3}; }
+    | order_by_item                   { $$ = new (here) node_order_by_list{.order_by_item = $1}; }
     ;
 
 order_by_item
-    : expression      { $$ = make(here, node_order_by_item{.type = QUILLET_SORT_ASCENDING, .expression = $1}); }
-    | expression ASC  { $$ = make(here, node_order_by_item{.type = QUILLET_SORT_ASCENDING, .expression = $1}); }
-    | expression DESC { $$ = make(here, node_order_by_item{.type = QUILLET_SORT_DESCENDING, .expression = $1}); }
+    : expression      { $$ = new (here) node_order_by_item{.type = QUILLET_SORT_ASCENDING, .expression = $1}; }
+    | expression ASC  { $$ = new (here) node_order_by_item{.type = QUILLET_SORT_ASCENDING, .expression = $1}; }
+    | expression DESC { $$ = new (here) node_order_by_item{.type = QUILLET_SORT_DESCENDING, .expression = $1}; }
     ;
 
 limit_clausule
     : %empty                                   { $$ = nullptr; }
     | LIMIT ALL                                { $$ = nullptr; }
-    | LIMIT const_integer                      { $$ = make(here, node_limit_clausule{.const_integer_1 = $2}); }
-    | LIMIT const_integer OFFSET const_integer { $$ = make(here, node_limit_clausule{.const_integer_1 = $2, .const_integer_2 = $4}); }
-    | OFFSET const_integer                     { $$ = make(here, node_limit_clausule{.const_integer_2 = $2}); }
-    | LIMIT ALL OFFSET const_integer           { $$ = make(here, node_limit_clausule{.const_integer_2 = $4}); }
+    | LIMIT const_integer                      { $$ = new (here) node_limit_clausule{.const_integer_1 = $2}; }
+    | LIMIT const_integer OFFSET const_integer { $$ = new (here) node_limit_clausule{.const_integer_1 = $2, .const_integer_2 = $4}; }
+    | OFFSET const_integer                     { $$ = new (here) node_limit_clausule{.const_integer_2 = $2}; }
+    | LIMIT ALL OFFSET const_integer           { $$ = new (here) node_limit_clausule{.const_integer_2 = $4}; }
     ;
 
 /* The select list. */
 
 distinct_select_list
-    : select_list          { $$ = make(here, node_distinct_select_list{.select_list = $1}); }
-    | ALL select_list      { $$ = make(here, node_distinct_select_list{.select_list = $2}); }
-    | distinct select_list { $$ = make(here, node_distinct_select_list{.distinct = $1, .select_list = $2}); }
+    : select_list          { $$ = new (here) node_distinct_select_list{.select_list = $1}; }
+    | ALL select_list      { $$ = new (here) node_distinct_select_list{.select_list = $2}; }
+    | distinct select_list { $$ = new (here) node_distinct_select_list{.distinct = $1, .select_list = $2}; }
     ;
 
 distinct
-    : DISTINCT                        { $$ = make(here, node_distinct{}); }
-    | DISTINCT ON '(' select_list ')' { $$ = make(here, node_distinct{.select_list = $4}); }
+    : DISTINCT                        { $$ = new (here) node_distinct{}; }
+    | DISTINCT ON '(' select_list ')' { $$ = new (here) node_distinct{.select_list = $4}; }
     ;
 
 select_list
-    : select_item                 { $$ = make(here, node_select_list{.select_item = $1}); }
-    | select_list ',' select_item { $$ = make(here, node_select_list{.select_list = $1, .select_item = $3}); }
+    : select_item                 { $$ = new (here) node_select_list{.select_item = $1}; }
+    | select_list ',' select_item { $$ = new (here) node_select_list{.select_list = $1, .select_item = $3}; }
     ;
 
 select_item
-    : '*'                      { $$ = make(here, node_select_item{}); }
-    | identifier '.' '*'       { $$ = make(here, node_select_item{.identifier = $1}); }
-    | expression               { $$ = make(here, node_select_item{.expression = $1}); }
-    | expression AS identifier { $$ = make(here, node_select_item{.expression = $1, .identifier = $3}); }
+    : '*'                      { $$ = new (here) node_select_item{}; }
+    | identifier '.' '*'       { $$ = new (here) node_select_item{.identifier = $1}; }
+    | expression               { $$ = new (here) node_select_item{.expression = $1}; }
+    | expression AS identifier { $$ = new (here) node_select_item{.expression = $1, .identifier = $3}; }
     ;
 
 /* Expressions. The order of the alternatives is part of the language. */
 
 expression
-    : column_reference                                      { $$ = make(here, node_expression{.column_reference = $1}); }
-    | function_call                                         { $$ = make(here, node_expression{.function_call = $1}); }
-    | const_generic                                         { $$ = make(here, node_expression{.const_generic = $1}); }
-    | '(' expression ')'                                    { $$ = make(here, node_expression{.expression_1 = $2}); }
+    : column_reference                                      { $$ = new (here) node_expression{.column_reference = $1}; }
+    | function_call                                         { $$ = new (here) node_expression{.function_call = $1}; }
+    | const_generic                                         { $$ = new (here) node_expression{.const_generic = $1}; }
+    | '(' expression ')'                                    { $$ = new (here) node_expression{.expression_1 = $2}; }
     | expression '*' expression                             { $$ = apply(here, "operator_multiplicity", $1, $3); }
     | expression '/' expression                             { $$ = apply(here, "operator_divide", $1, $3); }
     | expression '%' expression                             { $$ = apply(here, "operator_modulo", $1, $3); }
@@ -482,82 +467,82 @@ expression
     | expression '|' expression                             { $$ = apply(here, "operator_bitwise_or", $1, $3); }
     | expression '#' expression                             { $$ = apply(here, "operator_bitwise_xor", $1, $3); }
     | '~' expression %prec PREFIX_BITWISE_NOT               { $$ = apply(here, "operator_bitwise_not", $2); }
-    | cast_expression                                       { $$ = make(here, node_expression{.cast_expression = $1}); }
+    | cast_expression                                       { $$ = new (here) node_expression{.cast_expression = $1}; }
     | overlaps_expression OVERLAPS overlaps_expression      { $$ = overlaps(here, $1, $3); }
-    | case_expression                                       { $$ = make(here, node_expression{.case_expression = $1}); }
+    | case_expression                                       { $$ = new (here) node_expression{.case_expression = $1}; }
     ;
 
 case_expression
     : CASE expression when_list else_clausule END
-        { $$ = make(here, node_case_expression{.expression = $2, .when_list = $3, .else_clausule = $4}); }
-    | CASE when_list else_clausule END { $$ = make(here, node_case_expression{.when_list = $2, .else_clausule = $3}); }
+        { $$ = new (here) node_case_expression{.expression = $2, .when_list = $3, .else_clausule = $4}; }
+    | CASE when_list else_clausule END { $$ = new (here) node_case_expression{.when_list = $2, .else_clausule = $3}; }
     ;
 
 when_list
-    : when_list when_item { $$ = make(here, node_when_list{.when_list = $1, .when_item = $2}); }
-    | when_item           { $$ = make(here, node_when_list{.when_item = $1}); }
+    : when_list when_item { $$ = new (here) node_when_list{.when_list = $1, .when_item = $2}; }
+    | when_item           { $$ = new (here) node_when_list{.when_item = $1}; }
     ;
 
 when_item
-    : WHEN expression THEN expression { $$ = make(here, node_when_item{.expression_1 = $2, .expression_2 = $4}); }
+    : WHEN expression THEN expression { $$ = new (here) node_when_item{.expression_1 = $2, .expression_2 = $4}; }
     ;
 
 else_clausule
     : %empty          { $$ = nullptr; }
-    | ELSE expression { $$ = make(here, node_else_clausule{.expression = $2}); }
+    | ELSE expression { $$ = new (here) node_else_clausule{.expression = $2}; }
     ;
 
 overlaps_expression
-    : '(' expression ',' expression ')' { $$ = make(here, node_overlaps_expression{.expression_1 = $2, .expression_2 = $4}); }
+    : '(' expression ',' expression ')' { $$ = new (here) node_overlaps_expression{.expression_1 = $2, .expression_2 = $4}; }
     ;
 
 const_string
-    : STRING { $$ = make(here, node_const_string{.string = $1}); }
+    : STRING { $$ = new (here) node_const_string{.string = $1}; }
     ;
 
 const_integer
-    : INTEGER { $$ = make(here, node_const_integer{.integer = $1}); }
+    : INTEGER { $$ = new (here) node_const_integer{.integer = $1}; }
     ;
 
 const_floating
-    : FLOAT { $$ = make(here, node_const_floating{.floating = $1}); }
+    : FLOAT { $$ = new (here) node_const_floating{.floating = $1}; }
     ;
 
 escape
-    : ESCAPE STRING { $$ = make(here, node_escape{.string = $2}); }
+    : ESCAPE STRING { $$ = new (here) node_escape{.string = $2}; }
     ;
 
 const_boolean
-    : TRUE   { $$ = make(here, node_const_boolean{.value = QUILLET_TRUTH_TRUE}); }
-    | FALSE  { $$ = make(here, node_const_boolean{.value = QUILLET_TRUTH_FALSE}); }
-    | UNKNOW { $$ = make(here, node_const_boolean{.value = QUILLET_TRUTH_UNKNOW}); }
+    : TRUE   { $$ = new (here) node_const_boolean{.value = QUILLET_TRUTH_TRUE}; }
+    | FALSE  { $$ = new (here) node_const_boolean{.value = QUILLET_TRUTH_FALSE}; }
+    | UNKNOW { $$ = new (here) node_const_boolean{.value = QUILLET_TRUTH_UNKNOW}; }
     ;
 
 cast_expression
-    : CAST '(' expression AS identifier ')' { $$ = make(here, node_cast_expression{.expression = $3, .type = type_named(here, $5)}); }
-    | expression TYPECAST_OP identifier     { $$ = make(here, node_cast_expression{.expression = $1, .type = type_named(here, $3)}); }
+    : CAST '(' expression AS identifier ')' { $$ = new (here) node_cast_expression{.expression = $3, .type = type_named(here, $5)}; }
+    | expression TYPECAST_OP identifier     { $$ = new (here) node_cast_expression{.expression = $1, .type = type_named(here, $3)}; }
     ;
 
 /* Function calls. */
 
 function_call
-    : identifier '(' ')'                     { $$ = make(here, node_function_call{.function_name = $1}); }
-    | CURRENT_DATETIME                       { $$ = make(here, node_function_call{.function_name = name(here, $1)}); }
-    | CURRENT_DATETIME '(' ')'               { $$ = make(here, node_function_call{.function_name = name(here, $1)}); }
+    : identifier '(' ')'                     { $$ = new (here) node_function_call{.function_name = $1}; }
+    | CURRENT_DATETIME                       { $$ = new (here) node_function_call{.function_name = name(here, $1)}; }
+    | CURRENT_DATETIME '(' ')'               { $$ = new (here) node_function_call{.function_name = name(here, $1)}; }
     | CURRENT_DATETIME '(' expressions_list ')'
-        { $$ = make(here, node_function_call{.function_name = name(here, $1), .expressions_list = $3}); }
-    | identifier '(' agregate_expression ')' { $$ = make(here, node_function_call{.function_name = $1, .agregate_expression = $3}); }
-    | identifier '(' expressions_list ')'    { $$ = make(here, node_function_call{.function_name = $1, .expressions_list = $3}); }
-    | identifier '(' using_argument ')'      { $$ = make(here, node_function_call{.function_name = $1, .using_argument = $3}); }
+        { $$ = new (here) node_function_call{.function_name = name(here, $1), .expressions_list = $3}; }
+    | identifier '(' agregate_expression ')' { $$ = new (here) node_function_call{.function_name = $1, .agregate_expression = $3}; }
+    | identifier '(' expressions_list ')'    { $$ = new (here) node_function_call{.function_name = $1, .expressions_list = $3}; }
+    | identifier '(' using_argument ')'      { $$ = new (here) node_function_call{.function_name = $1, .using_argument = $3}; }
     | identifier '(' placing_from_for_argument ')'
-        { $$ = make(here, node_function_call{.function_name = $1, .placing_from_for_argument = $3}); }
-    | identifier '(' from_for_argument ')'   { $$ = make(here, node_function_call{.function_name = $1, .from_for_argument = $3}); }
-    | identifier '(' in_argument ')'         { $$ = make(here, node_function_call{.function_name = $1, .in_argument = $3}); }
-    | identifier '(' trim_argument ')'       { $$ = make(here, node_function_call{.function_name = $1, .trim_argument = $3}); }
+        { $$ = new (here) node_function_call{.function_name = $1, .placing_from_for_argument = $3}; }
+    | identifier '(' from_for_argument ')'   { $$ = new (here) node_function_call{.function_name = $1, .from_for_argument = $3}; }
+    | identifier '(' in_argument ')'         { $$ = new (here) node_function_call{.function_name = $1, .in_argument = $3}; }
+    | identifier '(' trim_argument ')'       { $$ = new (here) node_function_call{.function_name = $1, .trim_argument = $3}; }
     ;
 
 using_argument
-    : expression USING identifier { $$ = make(here, node_using_argument{.expression = $1, .identifier = $3}); }
+    : expression USING identifier { $$ = new (here) node_using_argument{.expression = $1, .identifier = $3}; }
     ;
 
 placing_from_for_argument
@@ -568,13 +553,13 @@ placing_from_for_argument
     ;
 
 from_for_argument
-    : expression FROM expression { $$ = make(here, node_from_for_argument{.expression_1 = $1, .expression_2 = $3}); }
+    : expression FROM expression { $$ = new (here) node_from_for_argument{.expression_1 = $1, .expression_2 = $3}; }
     | expression FROM expression FOR expression
-        { $$ = make(here, node_from_for_argument{.expression_1 = $1, .expression_2 = $3, .expression_3 = $5}); }
+        { $$ = new (here) node_from_for_argument{.expression_1 = $1, .expression_2 = $3, .expression_3 = $5}; }
     ;
 
 in_argument
-    : expression IN expression { $$ = make(here, node_in_argument{.expression_1 = $1, .expression_2 = $3}); }
+    : expression IN expression { $$ = new (here) node_in_argument{.expression_1 = $1, .expression_2 = $3}; }
     ;
 
 trim_argument
@@ -588,50 +573,50 @@ trim_argument
     ;
 
 agregate_expression
-    : DISTINCT expression { $$ = make(here, node_agregate_expression{.type = QUILLET_AGREGATE_DISTINCT, .expression = $2}); }
-    | ALL expression      { $$ = make(here, node_agregate_expression{.type = QUILLET_AGREGATE_ALL, .expression = $2}); }
-    | '*'                 { $$ = make(here, node_agregate_expression{.type = QUILLET_AGREGATE_STAR}); }
+    : DISTINCT expression { $$ = new (here) node_agregate_expression{.type = QUILLET_AGREGATE_DISTINCT, .expression = $2}; }
+    | ALL expression      { $$ = new (here) node_agregate_expression{.type = QUILLET_AGREGATE_ALL, .expression = $2}; }
+    | '*'                 { $$ = new (here) node_agregate_expression{.type = QUILLET_AGREGATE_STAR}; }
     ;
 
 expressions_list
-    : expression                      { $$ = make(here, node_expressions_list{.expression = $1}); }
-    | expressions_list ',' expression { $$ = make(here, node_expressions_list{.expressions_list = $1, .expression = $3}); }
+    : expression                      { $$ = new (here) node_expressions_list{.expression = $1}; }
+    | expressions_list ',' expression { $$ = new (here) node_expressions_list{.expressions_list = $1, .expression = $3}; }
     ;
 
 /* Literals, columns and names. */
 
 const_generic
-    : const_boolean  { $$ = make(here, node_const_generic{.const_boolean = $1}); }
-    | const_string   { $$ = make(here, node_const_generic{.const_string = $1}); }
-    | const_integer  { $$ = make(here, node_const_generic{.const_integer = $1}); }
-    | const_floating { $$ = make(here, node_const_generic{.const_floating = $1}); }
-    | NULL           { $$ = make(here, node_const_generic{}); }
+    : const_boolean  { $$ = new (here) node_const_generic{.const_boolean = $1}; }
+    | const_string   { $$ = new (here) node_const_generic{.const_string = $1}; }
+    | const_integer  { $$ = new (here) node_const_generic{.const_integer = $1}; }
+    | const_floating { $$ = new (here) node_const_generic{.const_floating = $1}; }
+    | NULL           { $$ = new (here) node_const_generic{}; }
     | identifier const_string at_time_zone
-        { $$ = make(here, node_const_generic{.const_string = $2, .type = parse->literal_type(type_named(here, $1)), .at_time_zone = $3}); }
+        { $$ = new (here) node_const_generic{.const_string = $2, .type = parse->literal_type(type_named(here, $1)), .at_time_zone = $3}; }
     | identifier identifier const_string at_time_zone
-        { $$ = make(here, node_const_generic{.const_string = $3, .type = parse->literal_type(type_named(here, $1, $2)), .at_time_zone = $4}); }
+        { $$ = new (here) node_const_generic{.const_string = $3, .type = parse->literal_type(type_named(here, $1, $2)), .at_time_zone = $4}; }
     ;
 
 at_time_zone
     : %empty                                     { $$ = nullptr; }
-    | AT identifier ZONE const_string            { $$ = make(here, node_at_time_zone{.type = zone_type(here, $2), .const_string = $4}); }
-    | AT identifier ZONE identifier const_string { $$ = make(here, node_at_time_zone{.type = zone_type(here, $2, $4), .const_string = $5}); }
+    | AT identifier ZONE const_string            { $$ = new (here) node_at_time_zone{.type = zone_type(here, $2), .const_string = $4}; }
+    | AT identifier ZONE identifier const_string { $$ = new (here) node_at_time_zone{.type = zone_type(here, $2, $4), .const_string = $5}; }
     ;
 
 column_reference_list
     : column_reference_list ',' column_reference
-        { $$ = make(here, node_column_reference_list{.column_reference_list = $1, .column_reference = $3}); }
-    | column_reference { $$ = make(here, node_column_reference_list{.column_reference = $1}); }
+        { $$ = new (here) node_column_reference_list{.column_reference_list = $1, .column_reference = $3}; }
+    | column_reference { $$ = new (here) node_column_reference_list{.column_reference = $1}; }
     ;
 
 column_reference
-    : identifier                { $$ = make(here, node_column_reference{.column_name = $1}); }
-    | identifier '.' identifier { $$ = make(here, node_column_reference{.column_name = $3, .correlation_name = $1}); }
+    : identifier                { $$ = new (here) node_column_reference{.column_name = $1}; }
+    | identifier '.' identifier { $$ = new (here) node_column_reference{.column_name = $3, .correlation_name = $1}; }
     ;
 
 identifier_list
-    : identifier_list ',' identifier { $$ = make(here, node_identifier_list{.identifier_list = $1, .identifier = $3}); }
-    | identifier                     { $$ = make(here, node_identifier_list{.identifier = $1}); }
+    : identifier_list ',' identifier { $$ = new (here) node_identifier_list{.identifier_list = $1, .identifier = $3}; }
+    | identifier                     { $$ = new (here) node_identifier_list{.identifier = $1}; }
     ;
 
 identifier

@@ -28,14 +28,6 @@ extern "C" int yy_quillet_error(const char *message) {
     return 0;
 }
 
-void quillet_parsing::fail(const char *message) {
-    if (!scan) {
-        yy_quillet_error(message);
-        return;
-    }
-    is_too_deep = std::strcmp(message, bisons_overflow) == 0;
-}
-
 // Parses what the scanner of the process reads, into the memory that this has.
 int yy_quillet_parse(void) {
     quillet_parsing parsing;

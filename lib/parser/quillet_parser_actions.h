@@ -9,6 +9,7 @@
 #include <new>
 #include <string_view>
 
+#include "quillet_operator_names.h"
 #include "quillet_parsing.h"
 #include "quillet_strings_tools.h"
 #include "quillet_tree_memory.h"
@@ -23,64 +24,69 @@ struct placed_tree {
     place where;
 };
 
-inline void *take_node(tree_memory &memory, std::size_t size) {
-    return _quillet_tree_take(&memory, size);
-}
-
-inline void *take_node(const placed_tree &tree, std::size_t size) {
-    auto *room = static_cast<char *>(_quillet_tree_take(&tree.memory, sizeof(place) + size));
-    return new (room) place(tree.where) + 1;
-}
-
 inline tree_memory &memory_of(tree_memory &memory) { return memory; }
 inline tree_memory &memory_of(const placed_tree &tree) { return tree.memory; }
 
-// make(here, node_<kind>{...}) returns a new node with these fields.
-template <class Node> Node *make(auto &&here, const Node &fields) {
-    return new (take_node(here, sizeof(Node))) Node(fields);
+} // namespace quillet
+
+// new (here) node_<kind>{...} makes a node in the tree, in the room where it stays.
+
+inline void *operator new(std::size_t size, quillet::tree_memory &memory) {
+    return _quillet_tree_take(&memory, size);
 }
+
+inline void *operator new(std::size_t size, const quillet::placed_tree &tree) {
+    auto *room =
+        static_cast<char *>(_quillet_tree_take(&tree.memory, sizeof(quillet::place) + size));
+    return new (room) quillet::place(tree.where) + 1;
+}
+
+namespace quillet {
 
 inline node_identifier *name(auto &&here, char *text) {
-    return make(here, node_identifier{.name = text});
+    return new (here) node_identifier{.name = text};
 }
 
-inline char *text_copy(auto &&here, std::string_view text) {
-    auto *copy = static_cast<char *>(_quillet_tree_take(&memory_of(here), text.size() + 1));
-    std::memcpy(copy, text.data(), text.size());
-    copy[text.size()] = '\0';
+// An operator's name as the tree stores it: the text of all if nobody can free it, or else a copy.
+inline char *stored(auto &&here, operator_name name) {
+    tree_memory &memory = memory_of(here);
+    if (memory.is_the_librarys())
+        return const_cast<char *>(name.text());
+    const std::string_view text = name.text();
+    auto *copy = static_cast<char *>(_quillet_tree_take(&memory, text.size() + 1));
+    std::memcpy(copy, text.data(), text.size() + 1);
     return copy;
 }
 
 // Operator applications.
 
-inline node_expression *apply(auto &&here, std::string_view name, node_expression *first,
+inline node_expression *apply(auto &&here, operator_name name, node_expression *first,
                               node_expression *second = nullptr, node_expression *third = nullptr) {
-    return make(here, node_expression{.operator_ = text_copy(here, name),
+    return new (here) node_expression{.operator_ = stored(here, name),
                                       .expression_1 = first,
                                       .expression_2 = second,
-                                      .expression_3 = third});
+                                      .expression_3 = third};
 }
 
-inline node_expression *truth_test(auto &&here, std::string_view name, node_expression *tested,
+inline node_expression *truth_test(auto &&here, operator_name name, node_expression *tested,
                                    node_const_boolean *value) {
-    return make(here, node_expression{.operator_ = text_copy(here, name),
-                                      .expression_1 = tested,
-                                      .const_boolean = value});
+    return new (here) node_expression{
+        .operator_ = stored(here, name), .expression_1 = tested, .const_boolean = value};
 }
 
-inline node_expression *match(auto &&here, std::string_view name, node_expression *matched,
+inline node_expression *match(auto &&here, operator_name name, node_expression *matched,
                               node_expression *pattern, node_escape *escape = nullptr) {
-    return make(here, node_expression{.operator_ = text_copy(here, name),
+    return new (here) node_expression{.operator_ = stored(here, name),
                                       .expression_1 = matched,
                                       .expression_2 = pattern,
-                                      .escape = escape});
+                                      .escape = escape};
 }
 
 inline node_expression *overlaps(auto &&here, node_overlaps_expression *first,
                                  node_overlaps_expression *second) {
-    return make(here, node_expression{.operator_ = text_copy(here, "operator_overlaps"),
+    return new (here) node_expression{.operator_ = stored(here, "operator_overlaps"),
                                       .overlaps_expression_1 = first,
-                                      .overlaps_expression_2 = second});
+                                      .overlaps_expression_2 = second};
 }
 
 // Argument forms.
@@ -88,16 +94,16 @@ inline node_expression *overlaps(auto &&here, node_overlaps_expression *first,
 inline node_placing_from_for_argument *placing(auto &&here, node_expression *string,
                                                node_expression *inserted, node_expression *start,
                                                node_expression *length) {
-    return make(here, node_placing_from_for_argument{.expression_1 = string,
+    return new (here) node_placing_from_for_argument{.expression_1 = string,
                                                      .expression_2 = inserted,
                                                      .expression_3 = start,
-                                                     .expression_4 = length});
+                                                     .expression_4 = length};
 }
 
 inline node_trim_argument *trim(auto &&here, int mode, node_expression *characters,
                                 node_expression *string) {
-    return make(
-        here, node_trim_argument{.mode = mode, .expression_1 = characters, .expression_2 = string});
+    return new (here)
+        node_trim_argument{.mode = mode, .expression_1 = characters, .expression_2 = string};
 }
 
 // Nodes that only carry something to their parent: the code is returned, the node given back.

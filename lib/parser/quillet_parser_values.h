@@ -34,8 +34,8 @@ namespace quillet {
 
 // A part of a statement, by the positions of its bytes; a statement is smaller than 4 GiB.
 struct place {
-    std::uint32_t begin = 0;
-    std::uint32_t end = 0;
+    std::uint32_t begin;
+    std::uint32_t end;
 };
 
 } // namespace quillet

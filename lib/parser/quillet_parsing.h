@@ -4,7 +4,6 @@
 #ifndef QUILLET_PARSING_H
 #define QUILLET_PARSING_H
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -17,28 +16,6 @@
 
 namespace quillet {
 
-// The location of a construct whose parts are counted from 1; before them stands the token before
-// the construct. An empty part has no place of its own. Of bison's locations only the columns are
-// used, for the positions of bytes.
-template <class Location> Location location_of_all(const Location *parts, int count) {
-    const auto is_empty = [](const Location &part) {
-        return part.first_column == part.last_column;
-    };
-    const Location *end = parts + count + 1;
-    const Location *first = std::find_if_not(parts + 1, end, is_empty);
-    if (first == end)
-        return {0, parts->last_column, 0, parts->last_column};
-    do
-        --end;
-    while (is_empty(*end));
-    return {0, first->first_column, 0, end->last_column};
-}
-
-template <class Location> place place_of(const Location &location) {
-    return {static_cast<std::uint32_t>(location.first_column),
-            static_cast<std::uint32_t>(location.last_column)};
-}
-
 // The place of a node from a parse with places.
 inline place place_before(const void *node) { return static_cast<const place *>(node)[-1]; }
 
@@ -46,7 +23,7 @@ inline place place_before(const void *node) { return static_cast<const place *>(
 
 struct quillet_parsing {
     quillet_scan *scan = nullptr; // of a statement where it stands; NULL: that of quillet_parse
-    quillet_blocks stack = {};    // what bison holds
+    quillet_blocks stack = {};    // what bison's driver holds
     node_main *root = nullptr;    // which may be complete before what follows it turns out wrong
     bool is_too_deep = false;
     bool has_lost_type = false; // a word before a string that names no type
@@ -63,13 +40,11 @@ struct quillet_parsing {
                 static_cast<std::uint32_t>(end - scan->text)};
     }
     quillet::place last_token() const { return place_of(scan->token_begin, scan->token_end); }
-
-    // Takes bison's word for why the parse has failed.
-    void fail(const char *message);
 };
 
-// The parsers that bison makes: of what quillet_parse reads, of a statement where it stands, and of
-// one with the places of the nodes. They return 0 for a tree, which is in the parsing's root.
+// The parsers that are made of the grammar: of what quillet_parse reads, of a statement where it
+// stands, and of one with the places of the nodes. They return 0 for a tree, which is in the
+// parsing's root.
 int yy_quillet_query_parse(quillet_parsing *parse, quillet_tree_memory *memory);
 int yy_quillet_statement_parse(quillet_parsing *parse, quillet_tree_memory *memory);
 int yy_quillet_places_parse(quillet_parsing *parse, quillet_tree_memory *memory);

@@ -87,11 +87,10 @@ void _quillet_scanner_forget_look(void);
 /* It reads by words of so many bytes, of the size that the tree's memory is taken by. */
 #define QUILLET_SCAN_WORD sizeof(void *)
 
-/* The next token's code; 0 at the end, and bison's own for an error after a fault. Stores the value
-   of one with a text. After the statement's end stands a word of NULs. */
-int yy_quillet_in_place_lex(union quillet_value *value, struct quillet_scan *scan);
-
-/* The same by flex's rules, for what is not frequent. */
+/* Scans the next token by flex's rules: what is frequent needs them not
+   (quillet_frequent_tokens.h). Returns the token's code, 0 at the end, and bison's own for an error
+   after a fault. Stores the value of one with a text. After the statement's end stands a word of
+   NULs. */
 int _quillet_scan_by_rules(union quillet_value *value, struct quillet_scan *scan);
 
 #ifdef __cplusplus

@@ -10,6 +10,7 @@
 
 #include "quillet_builder.h"
 #include "quillet_findings.h"
+#include "quillet_operator_names.h"
 #include "quillet_rules.h"
 
 namespace quillet {
@@ -56,12 +57,6 @@ inline constexpr operation<node_expression> builder::*operator_slots[] = {
 inline constexpr operation<node_function_call> builder::*function_slots[] = {
 #define FUNCTION(name, rule) &builder::build_function_##name,
 #include "quillet_functions.def"
-};
-
-enum operator_id {
-#define OPERATOR(name, ...) operator_id_##name,
-#include "quillet_operators.def"
-    operator_count
 };
 
 enum function_id {

@@ -7,7 +7,7 @@ namespace quillet {
 
 namespace {
 
-constexpr name_index<operator_count> operator_names({
+constexpr name_index<operator_count> indices({
 #define OPERATOR(name, ...) "operator_" #name,
 #include "quillet_operators.def"
 });
@@ -142,7 +142,10 @@ outcome complete(rendering &r, operator_use use, node_expression *node, void *da
 } // namespace
 
 // The name must match to the letter, as the parser stores it.
-int operator_index(std::string_view name) { return operator_names.find_in_lower_case(name); }
+int operator_index(const char *name) {
+    const std::size_t own = operator_of_own_name(name);
+    return own < operator_count ? static_cast<int>(own) : indices.find_in_lower_case(name);
+}
 
 bool begins_with_operand(operator_use use, const node_expression &node) {
     const operator_rule &rule = use.rule();

@@ -4,8 +4,6 @@
 #ifndef QUILLET_OPERATORS_H
 #define QUILLET_OPERATORS_H
 
-#include <string_view>
-
 #include "quillet_operands.h"
 
 namespace quillet {
@@ -14,7 +12,7 @@ inline constexpr int no_operator = -1;
 
 // Returns the index of an operator by the name that an expression stores, no_operator for an
 // unknown one.
-int operator_index(std::string_view name);
+int operator_index(const char *name);
 
 // Renders an operator application by a dialect's rule, whatever its slot holds.
 outcome render_operator(rendering &r, operator_use use, node_expression *node, void *data);

@@ -64,6 +64,11 @@ public:
     // Begins a tree, which may take so many bytes.
     void begin(tree_owner owner, std::size_t limit);
 
+    // Whether the tree under way stays in the library.
+    bool is_the_librarys() const {
+        return state_ != state::no_tree && owner_ == tree_owner::library;
+    }
+
     // Frees the tree, unless it has been kept, and ends it.
     void end();
 

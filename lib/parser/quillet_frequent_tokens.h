@@ -1,6 +1,11 @@
-// The tokens that most of a statement consists of are scanned without flex's tables: a step of
-// those waits for the last one, which is most of what scanning takes. What begins otherwise is left
-// to the rules.
+/*
+ * The tokens that most of a statement consists of, scanned where they stand. Internal.
+ *
+ * They are found without flex's tables, of which a step waits for the last one: that is most of
+ * what scanning takes. What begins otherwise is left to the rules.
+ */
+#ifndef QUILLET_FREQUENT_TOKENS_H
+#define QUILLET_FREQUENT_TOKENS_H
 
 #include <algorithm>
 #include <array>
@@ -14,7 +19,9 @@
 #include "quillet_scanner.h"
 #include "quillet_tree_memory.h"
 
-namespace {
+namespace quillet {
+
+namespace frequent {
 
 enum class kind : std::uint8_t {
     other,
@@ -28,7 +35,7 @@ enum class kind : std::uint8_t {
     double_quote
 };
 
-constexpr std::array<kind, 256> kinds = [] {
+inline constexpr std::array<kind, 256> kinds = [] {
     std::array<kind, 256> table{};
     const auto set = [&](std::string_view characters, kind of_all) {
         for (const char c : characters)
@@ -45,22 +52,22 @@ constexpr std::array<kind, 256> kinds = [] {
     return table;
 }();
 
-kind kind_of(char c) { return kinds[static_cast<unsigned char>(c)]; }
+inline kind kind_of(char c) { return kinds[static_cast<unsigned char>(c)]; }
 
-bool is_of_word(char c) {
+inline bool is_of_word(char c) {
     const kind found = kind_of(c);
     return found >= kind::letter && found <= kind::dollar;
 }
 
 // Returns the first character that does not belong to what a text begins with.
-char *end_of(char *text, auto belongs) {
+inline char *end_of(char *text, auto belongs) {
     while (belongs(*text))
         ++text;
     return text;
 }
 
 // A token's text is copied by words, as both ends have room for the last one. Most have one or two.
-char *copy(quillet_tree_memory *tree, const char *begin, std::size_t size) {
+inline char *copy(quillet_tree_memory *tree, const char *begin, std::size_t size) {
     auto *text = static_cast<char *>(_quillet_tree_take(tree, size + 1));
     for (std::size_t i = 0; i < size; i += QUILLET_SCAN_WORD)
         std::memcpy(text + i, begin + i, QUILLET_SCAN_WORD);
@@ -113,9 +120,12 @@ struct lexeme {
     }
 };
 
-} // namespace
+} // namespace frequent
 
-int yy_quillet_in_place_lex(quillet_value *value, quillet_scan *scan) {
+// Scans the next token of a statement where it stands. Returns its code, 0 at the end, and bison's
+// own for an error after a fault. Stores the value of one with a text.
+inline int scan_in_place(quillet_value *value, quillet_scan *scan) {
+    using namespace frequent;
     char *begin = end_of(scan->at, [](char c) { return kind_of(c) == kind::blank; });
     const lexeme next{value, scan, begin};
     switch (kind_of(*begin)) {
@@ -135,3 +145,7 @@ int yy_quillet_in_place_lex(quillet_value *value, quillet_scan *scan) {
     const bool is_end = begin == scan->end && !scan->is_cut;
     return is_end ? next.ends(begin, TOKEN_YYEOF) : next.by_rules();
 }
+
+} // namespace quillet
+
+#endif
