@@ -62,13 +62,14 @@ build_result *render_root_of_host(const quillet_builder_info &info) {
 // Translates, and returns the code.
 int translate(const char *input, char **output, const quillet_builder_info &info) {
     tree_memory &memory = classic_tree_memory;
-    builder *ours = classic_builders.find(info);
+    const own_builders::own_builder *ours = classic_builders.find(info);
+    const rendering_under_way classic(nullptr, ours ? &ours->slots : nullptr);
     const tree_under_way tree(memory, ours ? tree_owner::library : tree_owner::host);
     if (parse_query(input, memory) == QUILLET_PARSE_SYNTAX_ERROR)
         return QUILLET_INVALID_QUERY;
     const bool is_there = root && (ours || memory.keep()); // not too deep or too large
     const std::unique_ptr<build_result, freed> result(!is_there ? nullptr
-                                                      : ours    ? render_root(ours)
+                                                      : ours    ? render_root(ours->self)
                                                                 : render_root_of_host(info));
     root = nullptr;
     if (!result)
@@ -87,7 +88,6 @@ int quillet_translate_query(const char *input, char **output, int builder_id) {
     if (!is_builder(builder_id))
         return error_code = QUILLET_NO_SUCH_BUILDER;
     try {
-        const rendering_under_way classic(nullptr);
         return error_code = translate(input, output, builder_info_of(builder_id));
     } catch (const std::bad_alloc &) {
         return error_code = QUILLET_CAN_NOT_TRANSLATE;

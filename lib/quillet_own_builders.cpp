@@ -32,22 +32,25 @@ const quillet_builder_info &builder_info_of(int id) {
     return registered ? *registered : *builder_table[id].get_info();
 }
 
-builder *own_builders::find(const quillet_builder_info &info) {
+const own_builders::own_builder *own_builders::find(const quillet_builder_info &info) {
     for (int id = 0; id < builder_count; ++id)
         if (builder_table[id].create == info.constructor) {
-            if (!kept_[id])
-                kept_[id] = info.constructor();
-            if (!kept_[id])
-                throw std::bad_alloc();
-            return kept_[id];
+            own_builder &kept = kept_[id];
+            if (!kept.self) {
+                kept.self = info.constructor();
+                if (!kept.self)
+                    throw std::bad_alloc();
+                kept.slots = own_slots(*kept.self);
+            }
+            return &kept;
         }
     return nullptr;
 }
 
 void own_builders::release() {
-    for (builder *&kept : kept_)
-        if (kept)
-            quillet_builder_free(std::exchange(kept, nullptr));
+    for (own_builder &kept : kept_)
+        if (kept.self)
+            quillet_builder_free(std::exchange(kept.self, nullptr));
 }
 
 } // namespace quillet

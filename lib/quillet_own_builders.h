@@ -40,13 +40,19 @@ public:
     own_builders(const own_builders &) = delete;
     own_builders &operator=(const own_builders &) = delete;
 
+    // A builder, and what its slots hold.
+    struct own_builder {
+        builder *self = nullptr;
+        own_slots slots;
+    };
+
     // Returns the builder of a record; NULL if its constructor is a host's. Throws without memory.
-    builder *find(const quillet_builder_info &info);
+    const own_builder *find(const quillet_builder_info &info);
 
     void release();
 
 private:
-    builder *kept_[builder_count] = {};
+    own_builder kept_[builder_count] = {};
 };
 
 } // namespace quillet

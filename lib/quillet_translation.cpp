@@ -175,9 +175,9 @@ private:
 
     void translate(int builder_id, const limits &allowed) {
         const borrowed_context context;
-        builder *ours = context->builders.find(builder_info_of(builder_id));
+        const own_builders::own_builder *ours = context->builders.find(builder_info_of(builder_id));
         const tree_under_way tree(context->tree, ours ? tree_owner::library : tree_owner::host,
-                            allowed.tree);
+                                  allowed.tree);
         const dialect *own_dialect = builder_table[builder_id].own;
         const bool remarks_are_wanted = own_dialect && allowed.least_severity < QUILLET_REFUSAL;
         const remark_table *remarks = remarks_are_wanted ? own_dialect->remarks : nullptr;
@@ -233,8 +233,8 @@ private:
                        unknown_character_of(character));
     }
 
-    void render(const quillet_builder_info &info, builder *ours, const parse_result &parsed,
-                rendering_memory &memory) {
+    void render(const quillet_builder_info &info, const own_builders::own_builder *ours,
+                const parse_result &parsed, rendering_memory &memory) {
         findings found;
         if (info.get_error_code != quillet_mysql_get_error_code) {
             found.host_code = info.get_error_code;
@@ -243,10 +243,10 @@ private:
         memory.heard = &found;
         memory.groups.clear();
         {
-            const rendering_under_way under_way(&memory);
+            const rendering_under_way under_way(&memory, ours ? &ours->slots : nullptr);
             const std::unique_ptr<builder, builder_freed> of_host(ours ? nullptr
                                                                        : info.constructor());
-            take(ours ? ours : of_host.get(), parsed.root);
+            take(ours ? ours->self : of_host.get(), parsed.root);
         }
         if (memory.is_lacking)
             throw std::bad_alloc();

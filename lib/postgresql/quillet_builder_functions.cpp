@@ -27,7 +27,7 @@ outcome render_function_call(rendering &r, node_function_call *node, void *) {
         const auto slot = function_slots[index];
         if (const auto own = r.self->*slot) {
             r.out.cut(begin);
-            const dialect *home = dialect_of(slot, own);
+            const dialect *home = r.home_of(slot);
             if (!home)
                 return r.call(own, node, nullptr);
             const outcome call = render_function(r, *home, index, node);

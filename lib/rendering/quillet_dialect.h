@@ -5,6 +5,7 @@
 #ifndef QUILLET_DIALECT_H
 #define QUILLET_DIALECT_H
 
+#include <cstddef>
 #include <cstdint>
 #include <iterator>
 
@@ -76,6 +77,40 @@ template <class Operation> const dialect *dialect_of(Operation builder::*slot, O
             return known;
     return nullptr;
 }
+
+// The dialects of all slots of a builder that has operations of this library alone, looked up once.
+class own_slots {
+public:
+    constexpr own_slots() = default;
+    explicit own_slots(const builder &self) : self_(&self) {
+        const auto look_up = [&](auto builder::*slot) {
+            homes_[index_of(self, slot)] = dialect_of(slot, self.*slot);
+        };
+#define NODE(kind) look_up(&builder::build_##kind);
+#include "quillet_nodes.def"
+        for (const auto slot : operator_slots)
+            look_up(slot);
+        for (const auto slot : function_slots)
+            look_up(slot);
+    }
+
+    bool are_of(const builder *other) const { return self_ == other; }
+
+    template <class Operation> const dialect *home(Operation builder::*slot) const {
+        return homes_[index_of(*self_, slot)];
+    }
+
+private:
+    template <class Operation>
+    static std::size_t index_of(const builder &self, Operation builder::*slot) {
+        const auto *begin = reinterpret_cast<const char *>(&self);
+        const auto *found = reinterpret_cast<const char *>(&(self.*slot));
+        return static_cast<std::size_t>(found - begin) / sizeof(void *);
+    }
+
+    const builder *self_ = nullptr;
+    const dialect *homes_[sizeof(builder) / sizeof(void *)] = {};
+};
 
 // The operation that a builder's own one in a slot may defer to: its parent's, or without one what
 // stands in its own slot.

@@ -41,8 +41,7 @@ node_expression *begin_expression(rendering &r, step &begun, outcome &whole) {
     node_expression *node = begun.node;
     begun.begin = r.out.here();
     if (is_only_a_cast(*node)) {
-        constexpr auto slot = &builder::build_cast_expression;
-        if (const dialect *home = dialect_of(slot, r.self->*slot)) {
+        if (const dialect *home = r.home_of(&builder::build_cast_expression)) {
             begun.kind = step::type_cast;
             begun.use.home = home;
             home->cast->begin(r, *node->cast_expression);
@@ -73,8 +72,7 @@ node_expression *begin_expression(rendering &r, step &begun, outcome &whole) {
     if (index == no_operator)
         return nullptr;
     const auto slot = operator_slots[index];
-    const auto own = r.self->*slot;
-    if (const dialect *home = dialect_of(slot, own)) {
+    if (const dialect *home = r.home_of(slot)) {
         begun.kind = step::application;
         begun.use = {home, index};
         if (begins_with_operand(begun.use, *node)) {
@@ -83,7 +81,7 @@ node_expression *begin_expression(rendering &r, step &begun, outcome &whole) {
         }
         whole = render_operator(r, begun.use, node, nullptr);
     } else {
-        whole = r.call(own, node, nullptr);
+        whole = r.call(r.self->*slot, node, nullptr);
         r.hold_operator(node);
     }
     return nullptr;
@@ -127,13 +125,13 @@ struct operand_manner {
     const expression_frame *frame;
 };
 
-operand_manner manner_of_operands(const builder &self) {
+operand_manner manner_of_operands(const rendering &r) {
     constexpr auto slot = &builder::build_expression;
-    const dialect *home = dialect_of(slot, self.*slot);
+    const dialect *home = r.home_of(slot);
     if (!home)
         return {false, nullptr};
     // A frame goes round what the parent's operation renders, which may be a host's.
-    const bool in_place = !home->frame || dialect_of(slot, inherited(self, slot));
+    const bool in_place = !home->frame || dialect_of(slot, inherited(*r.self, slot));
     return {in_place, home->frame};
 }
 
@@ -143,7 +141,7 @@ outcome render_framed_expression(rendering &r, node_expression *node,
                                  const expression_frame *frame) {
     if (r.is_exhausted())
         return refused_part;
-    const operand_manner manner = manner_of_operands(*r.self);
+    const operand_manner manner = manner_of_operands(r);
     walk<step> steps = r.expression_walk();
     outcome result;
     for (;;) {

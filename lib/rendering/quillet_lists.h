@@ -21,8 +21,7 @@ struct no_data {
 // fields for the two; a list node without an item is a missing part.
 template <auto Earlier, auto Item, class Data = no_data, class List>
 outcome render_list(rendering &r, List *head, void *data, std::string_view separator) {
-    constexpr auto slot = slot_of<List>::operation;
-    const bool own = dialect_of(slot, r.self->*slot) != nullptr;
+    const bool own = r.home_of(slot_of<List>::operation) != nullptr;
     walk<list_step> steps = r.list_walk();
     const output::place begin = r.out.here();
 

@@ -17,7 +17,9 @@ template <class Element> void give_back(std::vector<Element> &mine, std::vector<
 } // namespace
 
 rendering::rendering(builder *renderer)
-    : kept_(rendering_memory_in_use()), remarks_(kept_.remarks), self(renderer), out(memory_.gaps) {
+    : kept_(rendering_memory_in_use()),
+      own_(kept_.own && kept_.own->are_of(renderer) ? kept_.own : nullptr), remarks_(kept_.remarks),
+      self(renderer), out(memory_.gaps) {
     memory_.lists.swap(kept_.lists);
     memory_.expressions.swap(kept_.expressions);
     memory_.gaps.swap(kept_.gaps);

@@ -63,6 +63,8 @@ struct rendering_memory {
     stack_bound stack;
     bool is_lacking = false; // whether an operation has failed for want of memory, in the outermost
     std::size_t text_limit = QUILLET_TEXT_SIZE_MAXIMUM;
+    const own_slots *own =
+        nullptr;               // of the builder that renders, if it is one of the library's own
     findings *heard = nullptr; // where what is found goes; NULL: nowhere, in the classic call
     const remark_table *remarks = nullptr; // what is looked for; likewise
     operator_groups groups;
@@ -81,19 +83,24 @@ inline rendering_memory &rendering_memory_in_use() {
 }
 
 // While one lives, the renderings of this thread have a memory, or with NULL that of the classic
-// calls.
+// calls; and the slots of the library's own builder are known, if it is one that renders.
 class rendering_under_way {
 public:
-    explicit rendering_under_way(rendering_memory *memory)
-        : former_(std::exchange(own_rendering_memory, memory)) {
+    rendering_under_way(rendering_memory *memory, const own_slots *own)
+        : former_(std::exchange(own_rendering_memory, memory)),
+          former_own_(std::exchange(rendering_memory_in_use().own, own)) {
         rendering_memory_in_use().is_lacking = false;
     }
-    ~rendering_under_way() { own_rendering_memory = former_; }
+    ~rendering_under_way() {
+        rendering_memory_in_use().own = former_own_;
+        own_rendering_memory = former_;
+    }
     rendering_under_way(const rendering_under_way &) = delete;
     rendering_under_way &operator=(const rendering_under_way &) = delete;
 
 private:
     rendering_memory *former_;
+    const own_slots *former_own_;
 };
 
 // Whether the children of a node that fails have been rendered.
@@ -101,6 +108,7 @@ enum class seen : std::uint8_t { no, yes };
 
 class rendering {
     rendering_memory &kept_;
+    const own_slots *const own_;        // of the builder below; NULL for a host's
     const remark_table *const remarks_; // what is looked for, NULL in the classic call
     rendering_memory memory_; // what the gaps of the text below live in, so it comes first
 
@@ -119,7 +127,18 @@ public:
 
     // Renders a child at the end of the text. NULL, or an empty slot, gives nothing.
     template <class Node> outcome child(Node *node, void *data = nullptr) {
-        return node ? by(self->*slot_of<Node>::operation, node, data) : absent;
+        if (!node)
+            return absent;
+        constexpr auto slot = slot_of<Node>::operation;
+        if (const dialect *home = home_of(slot))
+            return (home->*slot_of<Node>::render)(*this, node, data);
+        return call(self->*slot, node, data);
+    }
+
+    // The dialect to which the operation in a slot of the builder belongs; NULL for a host's own.
+    template <class Operation>
+    [[gnu::always_inline]] const dialect *home_of(Operation builder::*slot) const {
+        return own_ ? own_->home(slot) : dialect_of(slot, self->*slot);
     }
 
     // Renders a node by the operation that the builder's own one in its slot defers to.
@@ -128,7 +147,7 @@ public:
         const auto deferred_to = inherited(*self, slot);
         if (deferred_to && dialect_of(slot, deferred_to))
             return (default_dialect().*slot_of<Node>::render)(*this, node, data);
-        return by(deferred_to, node, data);
+        return call(deferred_to, node, data);
     }
 
     // Renders a node by a dialect's rule for its kind.
@@ -282,15 +301,6 @@ public:
     build_result *finish(outcome result);
 
 private:
-    // Renders a node by an operation that belongs into its slot. In line, as nested trees are
-    // rendered with recursion: a build without optimisation has no stack for a frame more.
-    template <class Node>
-    [[gnu::always_inline]] outcome by(operation<Node> found, Node *node, void *data) {
-        if (const dialect *home = dialect_of(slot_of<Node>::operation, found))
-            return (home->*slot_of<Node>::render)(*this, node, data);
-        return call(found, node, data);
-    }
-
     template <class Node> [[gnu::noinline, gnu::cold]] void look_for_remark(Node *node) {
         if (const auto known = remarks_->*remark_of<Node>::member)
             known(*this, node);
