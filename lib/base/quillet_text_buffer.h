@@ -4,7 +4,9 @@
 #ifndef QUILLET_TEXT_BUFFER_H
 #define QUILLET_TEXT_BUFFER_H
 
+#include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
@@ -31,6 +33,22 @@ public:
     }
 
     void append(char c) { *grow(1) = c; }
+
+    // The same for a text that a NUL ends, and that lies in room of whole words: a word at a time, of which
+    // a name has one or two.
+    void append_words(const char *text) {
+        constexpr std::size_t each = SIZE_MAX / 0xff;
+        for (;; text += sizeof each) {
+            std::size_t word = 0;
+            std::memcpy(&word, text, sizeof word);
+            std::memcpy(grow(sizeof word), &word, sizeof word);
+            const std::size_t zeros = (word - each) & ~word & each << 7; // the lowest one is right
+            if (zeros) {
+                size_ -= sizeof word - static_cast<std::size_t>(std::countr_zero(zeros)) / 8;
+                return;
+            }
+        }
+    }
 
     // Adds room for count characters after the text and returns where it begins.
     char *grow(std::size_t count) {

@@ -46,7 +46,7 @@ outcome render_identifier(rendering &r, node_identifier *node, void *) {
     if (!node->name)
         return r.lacks(node);
     const output::place begin = r.out.here();
-    r.out.append(node->name);
+    r.append_of_tree(node->name);
     r.out.replace_at_ends(begin, '"', '`');
     return a_text;
 }

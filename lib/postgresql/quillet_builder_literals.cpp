@@ -11,7 +11,7 @@ namespace {
 template <class Node> outcome render_literal(rendering &r, Node *node, const char *text, int type) {
     if (!text)
         return r.lacks(node);
-    r.out.append(text);
+    r.append_of_tree(text);
     node->sql_type = type;
     return a_text;
 }

@@ -304,7 +304,7 @@ outcome render_identifier_list(rendering &r, node_identifier_list *node, void *d
 outcome render_identifier(rendering &r, node_identifier *node, void *) {
     if (!node->name)
         return r.lacks(node);
-    r.out.append(node->name);
+    r.append_of_tree(node->name);
     return a_text;
 }
 

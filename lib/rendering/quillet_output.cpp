@@ -17,14 +17,6 @@ void output::cut(place begin, place end) {
     text_.truncate(text_.size() - removed);
 }
 
-void output::replace_at_ends(place begin, char found, char replacement) {
-    if (!has_grown_since(begin))
-        return;
-    for (char *end : {text_.at(begin.size), text_.at(text_.size() - 1)})
-        if (*end == found)
-            *end = replacement;
-}
-
 // Moves the text from its end to where it belongs, so that each part is moved once.
 void output::settle_from(std::size_t first) {
     std::size_t added = 0;

@@ -47,6 +47,7 @@ public:
 
     void append(std::string_view text) { text_.append(text); }
     void append(char c) { text_.append(c); }
+    void append_words(const char *text) { text_.append_words(text); }
 
     std::size_t size() const { return text_.size(); }
 
@@ -72,7 +73,13 @@ public:
     void cut(place begin, place end);
 
     // Replaces a character by another one where it is the first or the last one after a place.
-    void replace_at_ends(place begin, char found, char replacement);
+    void replace_at_ends(place begin, char found, char replacement) {
+        if (!has_grown_since(begin))
+            return;
+        for (char *end : {text_.at(begin.size), text_.at(text_.size() - 1)})
+            if (*end == found)
+                *end = replacement;
+    }
 
     // Leaves a gap at the end of the text.
     gap leave_gap() {

@@ -11,6 +11,7 @@
 #ifndef QUILLET_RENDERING_H
 #define QUILLET_RENDERING_H
 
+#include <bit>
 #include <cstdint>
 #include <memory>
 #include <new>
@@ -139,6 +140,15 @@ public:
     template <class Operation>
     [[gnu::always_inline]] const dialect *home_of(Operation builder::*slot) const {
         return own_ ? own_->home(slot) : dialect_of(slot, self->*slot);
+    }
+
+    // Appends a text of the tree, which the library has laid into whole words if the tree is its own.
+    void append_of_tree(const char *text) {
+        constexpr bool words_begin_low = std::endian::native == std::endian::little;
+        if (own_ && words_begin_low)
+            out.append_words(text);
+        else
+            out.append(text);
     }
 
     // Renders a node by the operation that the builder's own one in its slot defers to.
