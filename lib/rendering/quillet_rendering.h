@@ -64,9 +64,8 @@ struct rendering_memory {
     stack_bound stack;
     bool is_lacking = false; // whether an operation has failed for want of memory, in the outermost
     std::size_t text_limit = QUILLET_TEXT_SIZE_MAXIMUM;
-    const own_slots *own =
-        nullptr;               // of the builder that renders, if it is one of the library's own
-    findings *heard = nullptr; // where what is found goes; NULL: nowhere, in the classic call
+    const own_slots *own = nullptr; // if the builder and the tree are the library's own
+    findings *heard = nullptr;      // where what is found goes; NULL: nowhere, in the classic call
     const remark_table *remarks = nullptr; // what is looked for; likewise
     operator_groups groups;
 
@@ -84,7 +83,7 @@ inline rendering_memory &rendering_memory_in_use() {
 }
 
 // While one lives, the renderings of this thread have a memory, or with NULL that of the classic
-// calls; and the slots of the library's own builder are known, if it is one that renders.
+// calls; and they know the slots of the builder, if that and the tree are the library's own.
 class rendering_under_way {
 public:
     rendering_under_way(rendering_memory *memory, const own_slots *own)
@@ -142,7 +141,8 @@ public:
         return own_ ? own_->home(slot) : dialect_of(slot, self->*slot);
     }
 
-    // Appends a text of the tree, which the library has laid into whole words if the tree is its own.
+    // Appends a text of the tree, which the library has laid into whole words if the tree is its
+    // own.
     void append_of_tree(const char *text) {
         constexpr bool words_begin_low = std::endian::native == std::endian::little;
         if (own_ && words_begin_low)

@@ -164,9 +164,10 @@ void inspection::infer_types(node_main *root, int builder_id) {
     memory.text_limit = QUILLET_TEXT_SIZE_MAXIMUM;
     memory.heard = nullptr;
     memory.remarks = nullptr;
-    const rendering_under_way under_way(&memory);
-    builder *own = context->builders.find(builder_info_of(builder_id));
-    const std::unique_ptr<build_result, freed> result(quillet_call_build_main(own, root, nullptr));
+    const own_builders::own_builder *own = context->builders.find(builder_info_of(builder_id));
+    const rendering_under_way under_way(&memory, &own->slots);
+    const std::unique_ptr<build_result, freed> result(
+        quillet_call_build_main(own->self, root, nullptr));
     if (result)
         std::free(result->query);
     if (memory.is_lacking)
