@@ -14,78 +14,102 @@ const work = path.resolve(process.argv[2]);
 const site = path.join(work, 'site');
 const program = path.join(work, 'script/quillet-script');
 
-const differences = [...fs.readFileSync(path.join(site, 'docs/differences.html'), 'utf8').matchAll(/<h3 id="([^"]*)"/g)]
-  .map(([, id]) => id);
+const differences = [
+    ...fs
+        .readFileSync(path.join(site, 'docs/differences.html'), 'utf8')
+        .matchAll(/<h3 id="([^"]*)"/g),
+].map(([, id]) => id);
 
 // The words that the statement's colours tell apart are those of the scanner.
-const listed = (name, pattern) => [...fs.readFileSync(path.join(__dirname, '..', name), 'utf8').matchAll(pattern)]
-  .map(([, word]) => word.toLowerCase()).join(' ');
+const listed = (name, pattern) =>
+    [...fs.readFileSync(path.join(__dirname, '..', name), 'utf8').matchAll(pattern)]
+        .map(([, word]) => word.toLowerCase())
+        .join(' ');
 const keywords = listed('lib/parser/quillet_keywords.def', /^(?:KEYWORD|DATETIME)\((\w+)\)/gm);
 const types = listed('include/quillet/quillet_types.def', /"([a-z][\w ]*)"/g);
 
 async function bundled(entry) {
-  const { outputFiles: [{ text }] } = await esbuild.build({
-    entryPoints: [path.join(__dirname, 'src', entry)],
-    bundle: true,
-    minify: true,
-    write: false,
-    charset: 'utf8',
-    format: 'iife',
-    target: ['chrome103', 'firefox113', 'safari16.4'],
-    loader: { '.wasm': 'binary' },
-    external: ['fs', 'path'], // which emscripten asks for in Node alone
-    nodePaths: [path.join(work, 'npm/node_modules')],
-    alias: {
-      'quillet': path.join(work, 'package'),
-      'quillet-script.js': `${program}.js`,
-      'quillet-script.wasm': `${program}.wasm`,
-    },
-    define: {
-      DIFFERENCES: JSON.stringify(differences),
-      KEYWORDS: JSON.stringify(keywords),
-      TYPES: JSON.stringify(types),
-      'import.meta.url': '""', // of what is not used here
-    },
-    logLevel: 'warning',
-  });
-  return text;
+    const {
+        outputFiles: [{ text }],
+    } = await esbuild.build({
+        entryPoints: [path.join(__dirname, 'src', entry)],
+        bundle: true,
+        minify: true,
+        write: false,
+        charset: 'utf8',
+        format: 'iife',
+        target: ['chrome103', 'firefox113', 'safari16.4'],
+        loader: { '.wasm': 'binary' },
+        external: ['fs', 'path'], // which emscripten asks for in Node alone
+        nodePaths: [path.join(work, 'npm/node_modules')],
+        alias: {
+            quillet: path.join(work, 'package'),
+            'quillet-script.js': `${program}.js`,
+            'quillet-script.wasm': `${program}.wasm`,
+        },
+        define: {
+            DIFFERENCES: JSON.stringify(differences),
+            KEYWORDS: JSON.stringify(keywords),
+            TYPES: JSON.stringify(types),
+            'import.meta.url': '""', // of what is not used here
+        },
+        logLevel: 'warning',
+    });
+    return text;
 }
 
 const write = (name, text) => fs.writeFileSync(path.join(site, name), text);
 const worker = async (name, entry) =>
-  `(self.quilletWorkers ??= {}).${name} = ${JSON.stringify(await bundled(entry))};\n`;
+    `(self.quilletWorkers ??= {}).${name} = ${JSON.stringify(await bundled(entry))};\n`;
 
 // The scripts of a report, which the page's policy lets run.
 async function hashesOfReport() {
-  const run = await require(`${program}.js`)({
-    wasmBinary: fs.readFileSync(`${program}.wasm`), printErr() {},
-  });
-  run.FS.ignorePermissions = true;
-  run.FS.mkdir('/out');
-  run.FS.writeFile('/out/empty.sql', '');
-  run.callMain(['/out/empty.sql', '-o', '/out/text', '--report', '/out/report', '--color', 'never']);
-  const scripts = [...run.FS.readFile('/out/report', { encoding: 'utf8' }).matchAll(/<script>(.*?)<\/script>/gs)];
-  if (scripts.length === 0)
-    throw new Error('the report has no script');
-  return scripts.map(([, text]) => `'sha256-${createHash('sha256').update(text).digest('base64')}'`);
+    const run = await require(`${program}.js`)({
+        wasmBinary: fs.readFileSync(`${program}.wasm`),
+        printErr() {},
+    });
+    run.FS.ignorePermissions = true;
+    run.FS.mkdir('/out');
+    run.FS.writeFile('/out/empty.sql', '');
+    run.callMain([
+        '/out/empty.sql',
+        '-o',
+        '/out/text',
+        '--report',
+        '/out/report',
+        '--color',
+        'never',
+    ]);
+    const scripts = [
+        ...run.FS.readFile('/out/report', { encoding: 'utf8' }).matchAll(
+            /<script>(.*?)<\/script>/gs,
+        ),
+    ];
+    if (scripts.length === 0) throw new Error('the report has no script');
+    return scripts.map(
+        ([, text]) => `'sha256-${createHash('sha256').update(text).digest('base64')}'`,
+    );
 }
 
 async function main() {
-  const policy = [
-    "default-src 'none'",
-    `script-src 'self' 'wasm-unsafe-eval' ${(await hashesOfReport()).join(' ')}`,
-    "style-src 'self' 'unsafe-inline'",
-    'img-src data:',
-    'worker-src blob:',
-    'frame-src blob:',
-    "base-uri 'none'",
-    "form-action 'none'",
-  ].join('; ');
-  write('index.html', fs.readFileSync(path.join(__dirname, 'index.html'), 'utf8').replace('{{policy}}', policy));
-  write('style.css', fs.readFileSync(path.join(__dirname, 'style.css')));
-  write('page.js', await bundled('page.js'));
-  write('engine.js', await worker('statement', 'worker.js'));
-  write('script.js', await worker('script', 'script_worker.js'));
+    const policy = [
+        "default-src 'none'",
+        `script-src 'self' 'wasm-unsafe-eval' ${(await hashesOfReport()).join(' ')}`,
+        "style-src 'self' 'unsafe-inline'",
+        'img-src data:',
+        'worker-src blob:',
+        'frame-src blob:',
+        "base-uri 'none'",
+        "form-action 'none'",
+    ].join('; ');
+    write(
+        'index.html',
+        fs.readFileSync(path.join(__dirname, 'index.html'), 'utf8').replace('{{policy}}', policy),
+    );
+    write('style.css', fs.readFileSync(path.join(__dirname, 'style.css')));
+    write('page.js', await bundled('page.js'));
+    write('engine.js', await worker('statement', 'worker.js'));
+    write('script.js', await worker('script', 'script_worker.js'));
 }
 
 main();

@@ -4,8 +4,9 @@
 const differences = new Set(DIFFERENCES);
 
 export function explanationOf({ id, severity }, builder) {
-  const anchor = builder === 'postgresql' ? `postgresql-${id}` : id;
-  if (differences.has(anchor))
-    return `docs/differences.html#${anchor}`;
-  return severity === 'refusal' ? 'docs/mysql.html#what-is-refused' : 'docs/embedding.html#diagnostics';
+    const anchor = builder === 'postgresql' ? `postgresql-${id}` : id;
+    if (differences.has(anchor)) return `docs/differences.html#${anchor}`;
+    return severity === 'refusal'
+        ? 'docs/mysql.html#what-is-refused'
+        : 'docs/embedding.html#diagnostics';
 }
