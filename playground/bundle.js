@@ -1,5 +1,6 @@
-// Makes the page of its sources: one folder of files that refer to each other alone, to be put anywhere or opened as it
-// is. What the workers run is text in a script, as a page that is a file may not load them in another way.
+// Makes the page of its sources: one folder of files that refer to each other alone, to be put
+// anywhere or opened as it is. What the workers run is text in a script: a page that is a file may
+// load it so alone.
 //
 //   bundle.js FOLDER     that has npm, package, script and site/docs in it; the page becomes site
 
@@ -14,19 +15,18 @@ const work = path.resolve(process.argv[2]);
 const site = path.join(work, 'site');
 const program = path.join(work, 'script/quillet-script');
 
-const differences = [
-    ...fs
-        .readFileSync(path.join(site, 'docs/differences.html'), 'utf8')
-        .matchAll(/<h3 id="([^"]*)"/g),
-].map(([, id]) => id);
+const found = (name, pattern) =>
+    [...fs.readFileSync(name, 'utf8').matchAll(pattern)].map(([, each]) => each);
+
+const differences = found(path.join(site, 'docs/differences.html'), /<h3 id="([^"]*)"/g);
 
 // The words that the statement's colours tell apart are those of the scanner.
-const listed = (name, pattern) =>
-    [...fs.readFileSync(path.join(__dirname, '..', name), 'utf8').matchAll(pattern)]
-        .map(([, word]) => word.toLowerCase())
-        .join(' ');
-const keywords = listed('lib/parser/quillet_keywords.def', /^(?:KEYWORD|DATETIME)\((\w+)\)/gm);
-const types = listed('include/quillet/quillet_types.def', /"([a-z][\w ]*)"/g);
+const root = path.join(__dirname, '..');
+const keywords = found(
+    path.join(root, 'lib/parser/quillet_keywords.def'),
+    /^(?:KEYWORD|DATETIME)\((\w+)\)/gm,
+);
+const types = found(path.join(root, 'include/quillet/quillet_types.def'), /"([a-z][\w ]*)"/g);
 
 async function bundled(entry) {
     const {
@@ -49,8 +49,8 @@ async function bundled(entry) {
         },
         define: {
             DIFFERENCES: JSON.stringify(differences),
-            KEYWORDS: JSON.stringify(keywords),
-            TYPES: JSON.stringify(types),
+            KEYWORDS: JSON.stringify(keywords.join(' ').toLowerCase()),
+            TYPES: JSON.stringify(types.join(' ')),
             'import.meta.url': '""', // of what is not used here
         },
         logLevel: 'warning',
@@ -80,11 +80,8 @@ async function hashesOfReport() {
         '--color',
         'never',
     ]);
-    const scripts = [
-        ...run.FS.readFile('/out/report', { encoding: 'utf8' }).matchAll(
-            /<script>(.*?)<\/script>/gs,
-        ),
-    ];
+    const report = run.FS.readFile('/out/report', { encoding: 'utf8' });
+    const scripts = [...report.matchAll(/<script>(.*?)<\/script>/gs)];
     if (scripts.length === 0) throw new Error('the report has no script');
     return scripts.map(
         ([, text]) => `'sha256-${createHash('sha256').update(text).digest('base64')}'`,

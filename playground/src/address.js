@@ -1,6 +1,7 @@
 // What is in the address after its "#": the tab and the statement, a long one compressed.
 
 const longest = 1000; // characters that stand there as they are
+const most = 100000; // that the address may have: of a statement that needs more, it has none
 
 async function through(bytes, stream) {
     return new Uint8Array(
@@ -22,16 +23,13 @@ function toBytes(text) {
 }
 
 export async function fragmentOf({ tab, statement }) {
-    const isLong = statement.length > longest;
-    const packed =
-        isLong &&
-        toText(
-            await through(
-                new TextEncoder().encode(statement),
-                new CompressionStream('deflate-raw'),
-            ),
-        );
-    return `#${new URLSearchParams({ tab, ...(isLong ? { packed } : { sql: statement }) })}`;
+    if (statement.length <= longest)
+        return { fragment: `#${new URLSearchParams({ tab, sql: statement })}`, isWhole: true };
+    const packed = toText(
+        await through(new TextEncoder().encode(statement), new CompressionStream('deflate-raw')),
+    );
+    const isWhole = packed.length <= most;
+    return { fragment: `#${new URLSearchParams({ tab, ...(isWhole && { packed }) })}`, isWhole };
 }
 
 // Nothing where the address has no statement, or none that can be read.

@@ -3,9 +3,16 @@
 import { defaultKeymap, history, historyKeymap } from '@codemirror/commands';
 import { MySQL, PostgreSQL, SQLDialect } from '@codemirror/lang-sql';
 import { HighlightStyle, bracketMatching, syntaxHighlighting } from '@codemirror/language';
-import { lintKeymap, setDiagnostics } from '@codemirror/lint';
-import { EditorState } from '@codemirror/state';
-import { EditorView, drawSelection, keymap, lineNumbers } from '@codemirror/view';
+import { nextDiagnostic, previousDiagnostic, setDiagnostics } from '@codemirror/lint';
+import { EditorState, StateEffect, StateField } from '@codemirror/state';
+import {
+    Decoration,
+    EditorView,
+    drawSelection,
+    hoverTooltip,
+    keymap,
+    lineNumbers,
+} from '@codemirror/view';
 import { tags } from '@lezer/highlight';
 
 const colours = HighlightStyle.define([
@@ -21,7 +28,9 @@ const looks = EditorView.theme({
     '.cm-content': { fontFamily: 'var(--mono)', caretColor: 'var(--text)' },
     '.cm-cursor': { borderLeftColor: 'var(--text)', borderLeftWidth: '2px' },
     '&.cm-focused > .cm-scroller > .cm-selectionLayer .cm-selectionBackground, .cm-selectionBackground':
-        { background: 'var(--selection)' },
+        {
+            background: 'var(--selection)',
+        },
     '.cm-gutters': { backgroundColor: 'var(--code)', color: 'var(--muted)', border: '0' },
     '.cm-tooltip': {
         backgroundColor: 'var(--card)',
@@ -42,6 +51,31 @@ const dialect = SQLDialect.define({
     backslashEscapes: true,
 });
 
+const goOn = [
+    { key: 'F8', run: nextDiagnostic },
+    { key: 'Shift-F8', run: previousDiagnostic },
+];
+
+const light = StateEffect.define();
+const lit = StateField.define({
+    create: () => Decoration.none,
+    update(shown, transaction) {
+        for (const effect of transaction.effects)
+            if (effect.is(light))
+                shown =
+                    effect.value && effect.value.from < effect.value.to
+                        ? Decoration.set(
+                              Decoration.mark({ class: 'lit' }).range(
+                                  effect.value.from,
+                                  effect.value.to,
+                              ),
+                          )
+                        : Decoration.none;
+        return transaction.docChanged ? Decoration.none : shown;
+    },
+    provide: (field) => EditorView.decorations.from(field),
+});
+
 const common = (language, label) => [
     EditorView.lineWrapping,
     EditorView.contentAttributes.of({ 'aria-label': label, tabindex: '0' }),
@@ -50,7 +84,8 @@ const common = (language, label) => [
     looks,
 ];
 
-// told.changed(text) is called when the text has changed.
+// told.changed(text) is called when the user has changed the text, told.moved(place) when the
+// cursor is elsewhere; told.typeAt(place) promises {from, to, dom}, or nothing.
 export class StatementEditor {
     constructor(room, told) {
         this.view = new EditorView({
@@ -61,10 +96,24 @@ export class StatementEditor {
                     history(),
                     drawSelection(),
                     bracketMatching(),
-                    keymap.of([...lintKeymap, ...defaultKeymap, ...historyKeymap]),
+                    lit,
+                    keymap.of([...goOn, ...defaultKeymap, ...historyKeymap]),
                     ...common(dialect.extension, 'Statement in the PostgreSQL dialect'),
+                    hoverTooltip(async (view, place) => {
+                        const found = await told.typeAt(place);
+                        return (
+                            found && {
+                                pos: found.from,
+                                end: found.to,
+                                above: true,
+                                create: () => ({ dom: found.dom }),
+                            }
+                        );
+                    }),
                     EditorView.updateListener.of((update) => {
                         if (update.docChanged) told.changed(update.state.doc.toString());
+                        if (update.docChanged || update.selectionSet)
+                            told.moved(update.state.selection.main.head);
                     }),
                 ],
             }),
@@ -73,6 +122,9 @@ export class StatementEditor {
 
     get text() {
         return this.view.state.doc.toString();
+    }
+    get cursor() {
+        return this.view.state.selection.main.head;
     }
     get length() {
         return this.view.state.doc.length;
@@ -100,6 +152,18 @@ export class StatementEditor {
                 })),
             ),
         );
+    }
+
+    lightUp(piece, isShown = false) {
+        const clipped = piece && this.clip(piece.from, piece.to);
+        this.view.dispatch({
+            effects: [
+                light.of(clipped),
+                ...(clipped && isShown
+                    ? [EditorView.scrollIntoView(clipped.from, { y: 'nearest' })]
+                    : []),
+            ],
+        });
     }
 
     goTo(from, to) {

@@ -1,5 +1,5 @@
-// Asks the worker one thing after the other. When the statement changes, what is under way for the old one is
-// given up: a worker that takes long over it is ended, and another one begins.
+// Asks the worker one thing after the other. When the statement changes, what is under way for the
+// old one is given up: a worker that takes long over it is ended, and another one begins.
 
 const patience = 200; // milliseconds
 

@@ -1,4 +1,4 @@
-// Statements to choose from, for each kind of outcome: what becomes of them and what is said is what the tests expect.
+// Statements to choose from, for each kind of outcome. The tests say what becomes of each.
 
 const nested = (depth) => `select ${'('.repeat(depth)}1${')'.repeat(depth)}`;
 const members = 100000;
@@ -109,6 +109,24 @@ export const examples = [
         name: 'With a warning',
         tab: 'postgresql',
         statement: 'select 5!',
+    },
+    {
+        group: 'Types',
+        name: 'Inferred types',
+        tab: 'types',
+        statement: `select cast(price as bigint) * 2, date '2024-01-31' + 1,
+       extract(year from now()), 'a' || 'b', 7 > 2
+  from item`,
+    },
+    {
+        group: 'Tree',
+        name: 'A tree',
+        tab: 'tree',
+        statement: `select name, sum(price)
+  from item natural join sale
+ where sold between date '2005-01-01' and date '2005-12-31'
+ group by name
+having sum(quantity) > 10`,
     },
 ];
 

@@ -2,16 +2,19 @@
 
 import { fragmentOf, readFragment } from './address';
 import { Diagnostics } from './diagnostics';
-import { counted, element, find, say } from './dom';
+import { counted, element, find, say, shortened } from './dom';
 import { ReadText, StatementEditor } from './editor';
 import { Engine } from './engine';
 import { examples, statementOf } from './examples';
 import { ScriptRoom } from './scripts';
 import { Tabs } from './tabs';
+import { TreeView } from './tree';
 
 const names = { mysql: 'MySQL', postgresql: 'PostgreSQL' };
 const pause = 80; // milliseconds without a key before a statement is translated
+const rest = 500; // and before the address is changed, which some browsers allow only so often
 const quiet = 300; // milliseconds before it is said that it takes long
+const typesAtATime = 100;
 
 const engine = new Engine(self.quilletWorkers.statement);
 const tabs = new Tabs(document.querySelector('[role=tablist]'), () => {
@@ -24,25 +27,37 @@ const texts = Object.fromEntries(
         new ReadText(find(`panel-${name}`), name, `${names[name]} text`),
     ]),
 );
-const editor = new StatementEditor(find('editor'), { changed });
+const editor = new StatementEditor(find('editor'), {
+    changed,
+    moved: showTypeAtCursor,
+    typeAt: typeTip,
+});
 const diagnostics = new Diagnostics(editor);
+const tree = new TreeView(find('tree-room'), {
+    askChildren: (id, from, count) => ask('children', { id, from, count }),
+    pointed: (node) => editor.lightUp(node && { from: node.start, to: node.end }, true),
+});
 
 let shownStatement = ''; // which the worker has been told of
 let turn = 0; // counts what is shown: an older one gives way
 
 // The statement changes.
 
-const setBusy = (isBusy) => find('result').setAttribute('aria-busy', isBusy);
+// No aria-busy, which would keep what is said from being read out.
+const setBusy = (isBusy) => {
+    find('result').dataset.isBusy = isBusy;
+};
 
 let waiting;
+let addressWaiting;
 function changed() {
     setBusy(true);
     find('copied').replaceChildren();
+    find('example').value = '';
     clearTimeout(waiting);
-    waiting = setTimeout(() => {
-        keepAddress(false);
-        begin();
-    }, pause);
+    clearTimeout(addressWaiting);
+    waiting = setTimeout(begin, pause);
+    addressWaiting = setTimeout(() => keepAddress(false), rest);
 }
 
 function begin() {
@@ -79,6 +94,25 @@ async function show() {
 const shows = {
     mysql: (isMine) => showText('mysql', isMine),
     postgresql: (isMine) => showText('postgresql', isMine),
+    async types(isMine) {
+        const [made, outcome] = await inspect(isMine);
+        if (!outcome) return;
+        const { found, all } = (await ask('expressions', { from: 0, count: typesAtATime })) ?? {};
+        if (!found || !isMine()) return;
+        showOutcome(made, outcome === 'Read' ? counted(all, 'typed expression') : outcome);
+        find('types').hidden = all === 0;
+        find('types').tBodies[0].replaceChildren(...found.map(typeRow));
+        showMoreTypes(all);
+        showTypeAtCursor(editor.cursor);
+    },
+    async tree(isMine) {
+        const [made, outcome] = await inspect(isMine);
+        if (!outcome) return;
+        const root = await ask('outline', { nodes: 150, depth: 12 });
+        if (!isMine()) return;
+        showOutcome(made, outcome);
+        tree.show(root, shownStatement);
+    },
 };
 
 async function showText(name, isMine) {
@@ -88,6 +122,12 @@ async function showText(name, isMine) {
     texts[name].text = made.text ?? '';
     find('copy').hidden = made.text === null;
     find(`panel-${name}`).classList.toggle('is-empty', made.text === null && made.found > 0);
+}
+
+async function inspect(isMine) {
+    find('copy').hidden = true;
+    const made = await ask('inspect');
+    return made && isMine() ? [made, made.code === 0 ? 'Read' : outcomeOf(made)] : [];
 }
 
 function outcomeOf({ code, diagnostics: said, found }) {
@@ -116,25 +156,108 @@ function showOutcome({ code, diagnostics: said, found }, text, builder) {
     diagnostics.show(isBlank ? [] : said, isBlank ? 0 : found, builder);
 }
 
-// The address.
+// Types.
 
-let kept = 0;
-async function keepAddress(isNew) {
-    const mine = ++kept;
-    const fragment = await fragmentOf({ tab: tabs.name, statement: editor.text });
-    if (mine === kept && fragment !== location.hash)
-        history[isNew ? 'pushState' : 'replaceState'](null, '', fragment);
+const pieceOf = ({ start, end }) => shownStatement.slice(start, end);
+
+function typeRow(node) {
+    const place = element(
+        'button',
+        { type: 'button' },
+        element('code', {}, shortened(pieceOf(node))),
+    );
+    place.addEventListener('click', () => editor.goTo(node.start, node.end));
+    const row = element(
+        'tr',
+        {},
+        element('td', {}, place),
+        element('td', {}, element('code', { class: 'type' }, node.type)),
+    );
+    for (const event of ['mouseenter', 'focusin'])
+        row.addEventListener(event, () => editor.lightUp({ from: node.start, to: node.end }));
+    for (const event of ['mouseleave', 'focusout'])
+        row.addEventListener(event, () => editor.lightUp(null));
+    return row;
 }
 
+function showMoreTypes(all) {
+    const left = all - find('types').tBodies[0].rows.length;
+    find('more-types').hidden = left <= 0;
+    find('more-types').textContent = counted(Math.min(left, typesAtATime), 'more expression');
+}
+
+find('more-types').addEventListener('click', async () => {
+    const body = find('types').tBodies[0];
+    const first = body.rows.length;
+    const made = await ask('expressions', { from: first, count: typesAtATime });
+    if (!made || body.rows.length !== first) return;
+    body.append(...made.found.map(typeRow));
+    showMoreTypes(made.all);
+    body.rows[first].querySelector('button').focus();
+});
+
+async function typeTip(place) {
+    const node = await ask('expressionAt', { index: place });
+    return (
+        node && {
+            from: node.start,
+            to: node.end,
+            dom: element(
+                'div',
+                { class: 'tip' },
+                element('code', {}, shortened(pieceOf(node))),
+                ' is ',
+                element('code', { class: 'type' }, node.type),
+            ),
+        }
+    );
+}
+
+async function showTypeAtCursor(place) {
+    if (tabs.name !== 'types') return;
+    const node = await ask('expressionAt', { index: place });
+    if (tabs.name !== 'types') return;
+    say(
+        find('type-at-cursor'),
+        node ? `At the cursor: ${shortened(pieceOf(node))} is ${node.type}` : '',
+    );
+}
+
+// The tree.
+
+find('unfold').addEventListener('click', async () => {
+    const root = await ask('outline', { nodes: 2000, depth: 100 });
+    if (root) tree.show(root, shownStatement);
+});
+find('fold').addEventListener('click', () => tree.foldAll());
+
+// The address.
+
+// Tells whether the address has the statement, which may be too long for one.
+let kept = 0;
+async function keepAddress(isNew) {
+    clearTimeout(addressWaiting);
+    const mine = ++kept;
+    const { fragment, isWhole } = await fragmentOf({ tab: tabs.name, statement: editor.text });
+    if (mine === kept && fragment !== location.hash)
+        history[isNew ? 'pushState' : 'replaceState'](null, '', fragment);
+    return isWhole;
+}
+
+let read = 0;
 async function readAddress() {
     setBusy(true);
-    const wanted = (await readFragment(location.hash)) ?? {
+    const mine = ++read;
+    const { tab, statement } = (await readFragment(location.hash)) ?? {
         tab: '',
         statement: statementOf(examples[0]),
     };
-    tabs.choose(wanted.tab);
-    if (wanted.statement !== editor.text) editor.text = wanted.statement;
-    find('example').value = '';
+    if (mine === read) showOther(tab, statement);
+}
+
+function showOther(tab, statement) {
+    tabs.choose(tab);
+    if (statement !== editor.text) editor.text = statement;
     clearTimeout(waiting);
     begin();
 }
@@ -146,30 +269,24 @@ async function copy(what, text) {
         find('copied').textContent = `${what} is copied.`;
     } catch {
         // where a page may not
-        find('copied').replaceChildren(
-            element(
-                'label',
-                {},
-                `${what}: `,
-                element('textarea', { readonly: true, rows: 3 }, text),
-            ),
-        );
-        find('copied').querySelector('textarea').select();
+        const shown = element('textarea', { readonly: true, rows: 3 }, text);
+        find('copied').replaceChildren(element('label', {}, `${what}: `, shown));
+        shown.select();
     }
 }
 
 find('share').addEventListener('click', async () => {
-    await keepAddress(false);
-    copy('The link', location.href);
+    if (await keepAddress(false)) copy('The link', location.href);
+    else find('copied').textContent = 'The statement is too long for a link.';
 });
 find('copy').addEventListener('click', () => copy('The text', texts[tabs.name].text));
 
 // The examples.
 
 const choose = find('example');
-choose.append(
-    element('option', { value: '' }, 'Choose…'),
-    ...[...new Set(examples.map((each) => each.group))].map((group) =>
+choose.append(element('option', { value: '' }, 'Choose…'));
+for (const group of new Set(examples.map((each) => each.group)))
+    choose.append(
         element(
             'optgroup',
             { label: group },
@@ -177,16 +294,13 @@ choose.append(
                 .filter((each) => each.group === group)
                 .map((each) => element('option', { value: examples.indexOf(each) }, each.name)),
         ),
-    ),
-);
-choose.addEventListener('change', async () => {
-    const example = examples[choose.value];
-    if (!example) return;
-    tabs.choose(example.tab ?? 'mysql');
-    editor.text = statementOf(example);
-    clearTimeout(waiting);
-    await keepAddress(true);
-    begin();
+    );
+choose.addEventListener('change', () => {
+    const { value } = choose;
+    if (value === '') return;
+    showOther(examples[value].tab ?? 'mysql', statementOf(examples[value]));
+    choose.value = value;
+    keepAddress(true);
 });
 
 new ScriptRoom();

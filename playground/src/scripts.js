@@ -1,4 +1,5 @@
-// Whole scripts: files that are dropped or opened become one text and the report about them, as by quillet-script.
+// Whole scripts: files that are dropped or opened become one text and the report about them, as by
+// quillet-script.
 
 import { element, find, say } from './dom';
 
@@ -23,8 +24,15 @@ function load() {
     return program;
 }
 
-// The report's links lead to Markdown; here the guides are pages.
-const withPages = (report) => report.replaceAll(/(\/docs\/\w+)\.md(?=["#])/g, '$1.html');
+// The report's links lead to Markdown; here the guides are pages. They stand in its head, which is
+// ASCII as all of it is.
+function withPages(report) {
+    const largestHead = 4 * 1024 * 1024;
+    const begin = new TextDecoder().decode(report.subarray(0, largestHead));
+    const head = begin.slice(0, begin.indexOf('"statements":['));
+    const made = head.replaceAll(/"link":"([^"#]*)\.md/g, '"link":"$1.html');
+    return [made, report.subarray(head.length)];
+}
 
 export class ScriptRoom {
     #files = [];
@@ -110,12 +118,10 @@ export class ScriptRoom {
             this.#worker = worker;
             worker.onmessage = ({ data }) => this.#hear(worker, data);
             worker.onerror = (event) => this.#hear(worker, { failure: event.message });
-            worker.postMessage({
-                files,
-                to: find('script-to').value,
-                placeholders: find('script-placeholders').value,
-                guides,
-            });
+            const [to, placeholders] = ['script-to', 'script-placeholders'].map(
+                (id) => find(id).value,
+            );
+            worker.postMessage({ files, to, placeholders, guides });
         } catch (error) {
             this.#end();
             say(find('script-status'), `This page has failed: ${error.message}`);
@@ -135,7 +141,7 @@ export class ScriptRoom {
     }
 
     #show({ text, report }) {
-        const page = new Blob([withPages(new TextDecoder().decode(report))], { type: 'text/html' });
+        const page = new Blob(withPages(report), { type: 'text/html' });
         const offer = (id, name, blob) => {
             const address = URL.createObjectURL(blob);
             this.#addresses.push(address);

@@ -64,7 +64,7 @@ function native(files, ...options) {
         summary: run.stderr.trim().split('\n').at(-1),
         report: fs
             .readFileSync(path.join(folder, 'report'), 'utf8')
-            .replaceAll(/(\/docs\/\w+)\.md/g, '$1.html'),
+            .replaceAll(/("link":"[^"#]*)\.md/g, '$1.html'),
     };
 }
 

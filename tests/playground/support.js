@@ -35,7 +35,7 @@ async function serve() {
 const fragment = (statement, tab = 'mysql') => `#${new URLSearchParams({ tab, sql: statement })}`;
 
 // Until the page has shown what it has to show.
-const isDone = (page) => page.locator('#result[aria-busy=false]').waitFor({ timeout: 60000 });
+const isDone = (page) => page.locator('#result[data-is-busy=false]').waitFor({ timeout: 60000 });
 
 const onOneLine = (text) => text.replace(/\s+/g, ' ').trim();
 const statementOf = async (page) =>
