@@ -26,13 +26,15 @@ namespace frequent {
 enum class kind : std::uint8_t {
     other,
     blank,
-    letter, // which begins a word
-    digit,
-    dollar, // which goes on with one
-    single, // a token that no other one begins with
-    dot,
     quote,
-    double_quote
+    double_quote,
+    dot,
+    single, // a token that no other one begins with
+    sign,   // a token that others begin with
+    colon,
+    letter, // which begins a word; what follows goes on with one
+    digit,
+    dollar
 };
 
 inline constexpr std::array<kind, 256> kinds = [] {
@@ -42,22 +44,32 @@ inline constexpr std::array<kind, 256> kinds = [] {
             table[static_cast<unsigned char>(c)] = of_all;
     };
     set(" \t\r\n", kind::blank);
+    set("'", kind::quote);
+    set("\"", kind::double_quote);
+    set(".", kind::dot);
+    set("#@&*(),^%+=;", kind::single);
+    set("-/<>|!~", kind::sign);
+    set(":", kind::colon);
     set("abcdefghijklmnopqrstuvwxyz_ABCDEFGHIJKLMNOPQRSTUVWXYZ", kind::letter);
     set("0123456789", kind::digit);
     set("$", kind::dollar);
-    set("#@&*(),^%+=;", kind::single);
-    set(".", kind::dot);
-    set("'", kind::quote);
-    set("\"", kind::double_quote);
     return table;
 }();
 
+// The signs of two characters with which no longer one begins, but for "||/".
+struct sign_pair {
+    char text[3];
+    int code;
+};
+inline constexpr sign_pair sign_pairs[] = {{"<=", TOKEN_LESS_EQUAL},
+                                           {">=", TOKEN_GREATER_EQUAL},
+                                           {"<>", TOKEN_NOT_EQUAL},
+                                           {"!=", TOKEN_NOT_EQUAL},
+                                           {"||", TOKEN_CONCAT_OP}};
+
 inline kind kind_of(char c) { return kinds[static_cast<unsigned char>(c)]; }
 
-inline bool is_of_word(char c) {
-    const kind found = kind_of(c);
-    return found >= kind::letter && found <= kind::dollar;
-}
+inline bool is_of_word(char c) { return kind_of(c) >= kind::letter; }
 
 // Returns the first character that does not belong to what a text begins with.
 inline char *end_of(char *text, auto belongs) {
@@ -99,7 +111,10 @@ struct lexeme {
 
     int word() const {
         char *end = end_of(begin + 1, is_of_word);
-        const int code = _quillet_word_token(begin, static_cast<std::size_t>(end - begin));
+        const auto size = static_cast<std::size_t>(end - begin);
+        if (!may_be_keyword(begin, size))
+            return ends_with_text(end, TOKEN_IDENTIFIER);
+        const int code = _quillet_word_token(begin, size);
         return _quillet_has_text(code) ? ends_with_text(end, code) : ends(end, code);
     }
 
@@ -107,6 +122,16 @@ struct lexeme {
         char *end = end_of(begin + 1, [](char c) { return kind_of(c) == kind::digit; });
         const bool may_go_on = *end == '.' || *end == 'e' || *end == 'E';
         return may_go_on ? by_rules() : ends_with_text(end, TOKEN_INTEGER);
+    }
+
+    int sign() const {
+        const kind following = kind_of(begin[1]);
+        if (following == kind::blank || following >= kind::letter)
+            return ends(begin + 1, *begin);
+        for (const sign_pair &pair : sign_pairs)
+            if (pair.text[0] == begin[0] && pair.text[1] == begin[1] && begin[2] != '/')
+                return ends(begin + 2, pair.code);
+        return by_rules();
     }
 
     // A text in quotes of at least so many characters.
@@ -136,6 +161,11 @@ inline int scan_in_place(quillet_value *value, quillet_scan *scan) {
             break;
         [[fallthrough]];
     case kind::single: return next.ends(begin + 1, *begin);
+    case kind::sign: return next.sign();
+    case kind::colon:
+        if (begin[1] == ':')
+            return next.ends(begin + 2, TOKEN_TYPECAST_OP);
+        break;
     case kind::quote: return next.quoted(TOKEN_STRING, 0);
     case kind::double_quote: return next.quoted(TOKEN_IDENTIFIER, 1);
     case kind::dollar:

@@ -22,6 +22,36 @@ static inline int _quillet_has_text(int token) {
 
 #ifdef __cplusplus
 }
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace quillet {
+
+inline constexpr std::string_view keyword_spellings[] = {
+#define KEYWORD(word) #word,
+#define DATETIME(word) #word,
+#include "quillet_keywords.def"
+};
+
+// The lengths of the keywords with a first letter, a bit each.
+constexpr std::size_t letter_number(char c) { return static_cast<unsigned char>(c) % 32; }
+
+inline constexpr std::array<std::uint32_t, 32> keyword_lengths = [] {
+    std::array<std::uint32_t, 32> bits{};
+    for (const std::string_view word : keyword_spellings)
+        bits[letter_number(word[0])] |= 1U << word.size();
+    return bits;
+}();
+
+// Whether a keyword has the first letter and the length of a word: most other words are known by
+// that.
+inline bool may_be_keyword(const char *word, std::size_t length) {
+    return length < 32 && (keyword_lengths[letter_number(*word)] >> length & 1);
+}
+
+} // namespace quillet
 #endif
 
 #endif
