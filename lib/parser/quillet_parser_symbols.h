@@ -33,7 +33,7 @@ struct placed_symbol {
 
     // The place of a construct whose parts are counted from 1; before them stands the symbol before
     // the construct. An empty part has no place of its own.
-    static place place_of_all(const placed_symbol *parts, std::size_t count) {
+    [[gnu::noinline]] static place place_of_all(const placed_symbol *parts, std::size_t count) {
         const auto is_empty = [](const placed_symbol &part) {
             return part.where.begin == part.where.end;
         };
