@@ -138,7 +138,7 @@ test('the latest statement wins, and one that takes long is given up', async (t)
             }
         };
     });
-    const long = `select ${Array(1000000).fill('a/b').join('+')}`;
+    const long = `select ${Array(2000000).fill('a/b').join('+')}`;
     await page.context().grantPermissions(['clipboard-read', 'clipboard-write']);
     await page.evaluate((text) => navigator.clipboard.writeText(text), long);
     await page.locator('#editor .cm-content').focus();
