@@ -366,10 +366,6 @@ struct placed_token {
     std::ptrdiff_t begin;
     std::ptrdiff_t end;
     bool operator==(const placed_token &) const = default;
-
-    friend std::ostream &operator<<(std::ostream &out, const placed_token &shown) {
-        return out << shown.begin << '-' << shown.end << ": " << shown.found;
-    }
 };
 
 // What a scanner says of a statement, up to its end or to a fault.

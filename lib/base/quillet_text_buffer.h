@@ -34,8 +34,8 @@ public:
 
     void append(char c) { *grow(1) = c; }
 
-    // The same for a text that a NUL ends, and that lies in room of whole words: a word at a time, of which
-    // a name has one or two.
+    // The same for a text that a NUL ends, and that lies in room of whole words: a word at a time,
+    // of which a name has one or two.
     void append_words(const char *text) {
         constexpr std::size_t each = SIZE_MAX / 0xff;
         for (;; text += sizeof each) {
