@@ -28,14 +28,18 @@ const keywords = found(
 );
 const types = found(path.join(root, 'include/quillet/quillet_types.def'), /"([a-z][\w ]*)"/g);
 
+const packages = new Set(); // folders of what is in the page from npm
+
 async function bundled(entry) {
     const {
         outputFiles: [{ text }],
+        metafile,
     } = await esbuild.build({
         entryPoints: [path.join(__dirname, 'src', entry)],
         bundle: true,
         minify: true,
         write: false,
+        metafile: true,
         charset: 'utf8',
         format: 'iife',
         target: ['chrome103', 'firefox113', 'safari16.4'],
@@ -55,6 +59,10 @@ async function bundled(entry) {
         },
         logLevel: 'warning',
     });
+    for (const input of Object.keys(metafile.inputs)) {
+        const [folder] = input.match(/.*node_modules\/(@[^/]+\/)?[^/]+/) ?? [];
+        if (folder) packages.add(path.resolve(folder));
+    }
     return text;
 }
 
@@ -88,6 +96,21 @@ async function hashesOfReport() {
     );
 }
 
+// The licences of what is in the page besides Quillet.
+function licences() {
+    const npm = [...packages].sort().map((folder) => {
+        const { name, version } = JSON.parse(fs.readFileSync(path.join(folder, 'package.json')));
+        return [`${name} ${version}`, path.join(folder, 'LICENSE')];
+    });
+    const debian = ['libcli11-dev', 'nlohmann-json3-dev', 'emscripten'].map((name) => [
+        name,
+        `/usr/share/doc/${name}/copyright`,
+    ]);
+    return [...npm, ...debian]
+        .map(([name, file]) => `${name}\n\n${fs.readFileSync(file, 'utf8').trim()}\n`)
+        .join(`\n${'-'.repeat(80)}\n\n`);
+}
+
 async function main() {
     const policy = [
         "default-src 'none'",
@@ -107,6 +130,7 @@ async function main() {
     write('page.js', await bundled('page.js'));
     write('engine.js', await worker('statement', 'worker.js'));
     write('script.js', await worker('script', 'script_worker.js'));
+    write('licences.txt', licences());
 }
 
 main();

@@ -710,6 +710,7 @@ test('on a telephone, with a finger', async () => {
     await phone.getByRole('button', { name: 'Go to 1:8' }).tap();
     assert.equal(await selected(phone), 'initcap(name)');
     await phone.tap('#tab-types');
+    await phone.locator('#types tbody tr').first().waitFor();
     await isDone(phone);
     await phone.locator('#editor .cm-line').getByText('1', { exact: true }).tap();
     await phone.getByText(/^At the cursor: 1( \+ 2)? is INT8$/).waitFor();
@@ -719,6 +720,22 @@ test('on a telephone, with a finger', async () => {
     assert.equal(await phone.locator('#tree-room .node:visible').count(), 1);
     assert.ok((await phone.evaluate(() => document.documentElement.scrollWidth)) <= 360);
     await isFine(phone);
+});
+
+test('the licences of what is in it are beside it', () => {
+    const licences = fs.readFileSync(path.join(site, 'licences.txt'), 'utf8');
+    for (const name of [
+        '@codemirror/view',
+        '@lezer/lr',
+        'libcli11-dev',
+        'nlohmann-json3-dev',
+        'emscripten',
+    ])
+        assert.match(
+            licences,
+            new RegExp(`^${name}( [\\d.]+)?\n\n.*(Copyright|MIT|Format)`, 'm'),
+            name,
+        );
 });
 
 test('no connection is allowed', async () => {
