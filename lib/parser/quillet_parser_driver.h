@@ -1,7 +1,7 @@
 /*
  * The parser of a statement where it stands, over bison's tables. Internal.
  *
- * It does what bison's own driver does, step by step, in less than half the instructions: a row has
+ * It does what bison's own driver does, step by step, in about half the instructions: a row has
  * all that a state or a rule asks for, an action stands beside what it is checked by, and there is
  * one stack.
  */

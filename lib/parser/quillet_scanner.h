@@ -52,8 +52,7 @@ struct quillet_scan {
     int is_cut; /* whether the statement goes on after the NUL at its end */
     int comment_depth;
     int has_open_comment; /* at the end */
-    int has_trace; /* whether that of quillet_parse would print something, or leave a comment open
-                    */
+    int has_trace;        /* whether that of quillet_parse would print, or leave a comment open */
     const char *comment_begin; /* of the last one */
     enum quillet_scan_fault fault;
     const char *fault_begin;
@@ -87,7 +86,7 @@ void _quillet_scanner_forget_look(void);
 /* It reads by words of so many bytes, of the size that the tree's memory is taken by. */
 #define QUILLET_SCAN_WORD sizeof(void *)
 
-/* Scans the next token by flex's rules: what is frequent needs them not
+/* Scans the next token by flex's rules, which frequent ones do without
    (quillet_frequent_tokens.h). Returns the token's code, 0 at the end, and bison's own for an error
    after a fault. Stores the value of one with a text. After the statement's end stands a word of
    NULs. */
